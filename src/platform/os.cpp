@@ -1,0 +1,12 @@
+#include "platform/platform.h"
+
+namespace platform {
+
+namespace {
+Platform* current = nullptr;
+}
+
+Platform& os() { return *current; }
+void install(Platform* p) { current = p; }
+
+}  // namespace platform

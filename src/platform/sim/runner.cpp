@@ -1,0 +1,147 @@
+#include "platform/sim/runner.h"
+
+#include <cstdio>
+
+#include "platform/sim/sim_platform.h"
+#include "platform/sim/transcript.h"
+
+namespace sim {
+
+Runner::Runner(std::istream& in, bool live, double timeoutSeconds)
+    : in_(in), live_(live), timeout_(timeoutSeconds) {}
+
+bool Runner::preload(std::string& error) {
+    if (live_) return true;
+    std::string line;
+    while (std::getline(in_, line)) {
+        auto c = parseLine(line, ++lineNo_, error);
+        if (!error.empty()) return false;
+        if (c) queue_.push_back(*c);
+    }
+    return true;
+}
+
+bool Runner::fetch() {
+    if (qpos_ < queue_.size()) {
+        cur_ = queue_[qpos_++];
+        return true;
+    }
+    if (!live_) return false;
+    std::string line;
+    while (std::getline(in_, line)) {
+        std::string error;
+        auto c = parseLine(line, ++lineNo_, error);
+        if (!error.empty()) {
+            std::fprintf(stderr, "greenlark-sim: %s\n", error.c_str());
+            throw RunnerStop{2};
+        }
+        if (c) {
+            cur_ = *c;
+            return true;
+        }
+    }
+    return false;
+}
+
+void Runner::begin() {
+    started_ = lastKeyAt_ = p_->now();
+    keyIndex_ = 0;
+    prevFrom_ = curFrom_;
+    curFrom_ = p_->events().size();
+}
+
+bool Runner::findEvent(const Command& c) {
+    const auto& ev = p_->events();
+    size_t from = prevFrom_ > matchFrom_ ? prevFrom_ : matchFrom_;
+    for (size_t i = from; i < ev.size(); ++i) {
+        if (ev[i].sound != (c.op == Op::ExpectSound)) continue;
+        bool hit = c.op == Op::ExpectSound ? ev[i].text == c.text : ev[i].text.find(c.text) != std::string::npos;
+        if (hit) {
+            matchFrom_ = i + 1;
+            return true;
+        }
+    }
+    return false;
+}
+
+// Presses the next key when it is due. The key event may run a long nested
+// routine that turns the runner further, so nothing is read after it.
+bool Runner::metKey(Command& c) {
+    if (keyIndex_ >= c.keys.size()) return true;
+    std::uint64_t due = (keyIndex_ == 0 ? started_ : lastKeyAt_) + 100;
+    if (p_->now() < due) return false;
+    int code = c.keys[keyIndex_++];
+    lastKeyAt_ = p_->now();
+    p_->deliverKey(code);
+    return false;
+}
+
+bool Runner::met(Command& c) {
+    switch (c.op) {
+        case Op::Key: return metKey(c);
+        case Op::Wait: return double(p_->now() - started_) >= c.seconds * 1000.0;
+        case Op::Expect:
+        case Op::ExpectSound: return findEvent(c);
+        case Op::Quiet: return p_->runningState() != 2;
+        case Op::At:
+            if (keyIndex_ > 0) return true;
+            if (!p_->cursorPast(c.text, c.percent)) return false;
+            keyIndex_ = 1;
+            p_->deliverKey(c.keys[0]);
+            return false;
+        case Op::Close:
+            if (keyIndex_ > 0) return true;
+            keyIndex_ = 1;
+            p_->deliverClose();
+            return false;
+        case Op::End: return false;
+    }
+    return false;
+}
+
+void Runner::step() {
+    while (true) {
+        if (!cur_) {
+            if (scriptDone_ || !fetch()) {
+                scriptDone_ = true;
+                throw RunnerStop{0};
+            }
+            begin();
+        }
+        int line = cur_->line;
+        size_t before = keyIndex_;
+        if (!met(*cur_)) {
+            if (cur_ && cur_->line == line && keyIndex_ == before && cur_->op != Op::Wait &&
+                cur_->op != Op::End && double(p_->now() - started_) > timeout_ * 1000.0) {
+                std::fprintf(stderr, "greenlark-sim: line %d: step not met within %g virtual seconds\n",
+                             line, timeout_);
+                throw RunnerStop{1};
+            }
+            return;
+        }
+        emit(p_->now(), "done " + std::to_string(line));
+        cur_.reset();
+    }
+}
+
+int Runner::finish() {
+    while (true) {
+        if (!cur_) {
+            if (scriptDone_ || !fetch()) return 0;
+            begin();
+        }
+        Command& c = *cur_;
+        bool ok = c.op == Op::End || (c.op == Op::Key && keyIndex_ >= c.keys.size()) ||
+                  ((c.op == Op::At || c.op == Op::Close) && keyIndex_ > 0) || c.op == Op::Quiet ||
+                  ((c.op == Op::Expect || c.op == Op::ExpectSound) && findEvent(c));
+        if (!ok) {
+            std::fprintf(stderr, "greenlark-sim: line %d: the program ended before this step was met\n",
+                         c.line);
+            return 1;
+        }
+        emit(p_->now(), "done " + std::to_string(c.line));
+        cur_.reset();
+    }
+}
+
+}  // namespace sim

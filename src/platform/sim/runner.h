@@ -1,0 +1,59 @@
+// Runs a scenario script against the program, step by step, inside the
+// program's own yields.
+#pragma once
+
+#include <cstdint>
+#include <istream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/sim/script.h"
+
+namespace sim {
+
+class SimPlatform;
+
+// Thrown out of a yield to stop the program: the script is done, or a step
+// failed (code 1) or a line could not be read (code 2).
+struct RunnerStop {
+    int code = 0;
+};
+
+class Runner {
+public:
+    // live: read commands from the stream as they arrive.
+    Runner(std::istream& in, bool live, double timeoutSeconds);
+    // Reads a whole script file ahead; false (and error) when a line is bad.
+    bool preload(std::string& error);
+    void attach(SimPlatform* p) { p_ = p; }
+    // One turn: runs what is due at the present virtual time.
+    void step();
+    // The program has ended: settles the remaining steps. Returns the exit code.
+    int finish();
+
+private:
+    bool fetch();
+    bool met(Command& c);
+    bool metKey(Command& c);
+    bool findEvent(const Command& c);
+    void begin();
+
+    std::istream& in_;
+    bool live_;
+    double timeout_;
+    int lineNo_ = 0;
+    std::vector<Command> queue_;
+    size_t qpos_ = 0;
+    std::optional<Command> cur_;
+    size_t keyIndex_ = 0;
+    std::uint64_t started_ = 0;     // virtual ms when the step began
+    std::uint64_t lastKeyAt_ = 0;
+    size_t curFrom_ = 0;            // events index at the start of the step
+    size_t prevFrom_ = 0;           // the same for the step before
+    size_t matchFrom_ = 0;          // just past the last matched event
+    bool scriptDone_ = false;
+    SimPlatform* p_ = nullptr;
+};
+
+}  // namespace sim

@@ -1,0 +1,107 @@
+// The simulated platform: a virtual clock, scripted keys and a transcript
+// of everything spoken, played and written.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "platform/platform.h"
+#include "platform/sim/runner.h"
+#include "platform/sim/sim_sound.h"
+
+namespace sim {
+
+struct Options {
+    std::string game;
+    std::string cwd;
+    std::string docs;
+    int voices = 3;
+    std::string date = "11/22/2026";
+    double clockStart = 12 * 3600;
+    double timeout = 900;
+};
+
+// One thing the program did that a script step can wait for.
+struct Event {
+    bool sound = false;   // a buffer started playing; else a text was spoken
+    std::string text;     // the text, or the stem
+};
+
+class SimPlatform : public platform::Platform {
+public:
+    SimPlatform(const Options& o, Runner& r);
+
+    // ---- what the runner uses
+    std::uint64_t now() const { return clock_; }
+    const std::vector<Event>& events() const { return events_; }
+    void deliverKey(int code);
+    void deliverClose();
+    bool cursorPast(const std::string& stem, double percent);
+    void log(const std::string& body);
+
+    // ---- the platform
+    void showWindow(const std::string& caption) override;
+    void setKeyHandler(std::function<void(int)> onKey) override { onKey_ = std::move(onKey); }
+    void setCloseHandler(std::function<void()> onClose) override { onClose_ = std::move(onClose); }
+    void yield() override;
+    std::uint32_t tick() override { return std::uint32_t(clock_); }
+    void dueAt(std::uint32_t) override {}
+    void messageBox(const std::string& text) override;
+    void beep() override;
+    std::string dateText() override { return opt_.date; }
+    double timeOfDay() override;
+    [[noreturn]] void endProcess() override;
+
+    int voiceCount() override { return opt_.voices; }
+    std::string voiceName(int index) override;
+    void createVoice() override {}
+    void releaseVoice() override {}
+    void setVoice(int index) override;
+    void setRate(int rate) override;
+    void setVolume(int volume) override;
+    void speak(const std::string& text, int flag) override;
+    int runningState() override { return double(clock_) < speechEnd_ ? 2 : 0; }
+
+    void openSoundDevice() override {}
+    void closeSoundDevice() override {}
+    int createBuffer(const std::string& path) override;
+    void releaseBuffer(int id) override;
+    int getFrequency(int id) override { return buf(id).fileRate; }
+    void setFrequency(int id, int hz) override { buf(id).freq = hz; }
+    void setCurrentPosition(int id, long bytes) override;
+    platform::CursorPair getCurrentPosition(int id) override;
+    void setVolumeDb(int id, int hundredthsDb) override;
+    void setPan(int id, int hundredthsDb) override;
+    void play(int id, int loopFlag) override;
+    int getStatus(int id) override;
+    void stop(int id) override;
+    void restore(int id) override { buf(id); }
+
+    std::vector<platform::DirEntry> list(const std::string& pattern) override;
+    void makeDir(const std::string& path) override;
+    void removeFile(const std::string& path) override;
+    std::string readFile(const std::string& path) override;
+    void writeFile(const std::string& path, const std::string& data) override;
+    void appendFile(const std::string& path, const std::string& data) override;
+    std::string documentsFolder() override { return opt_.docs; }
+    std::string programFolder() override { return opt_.game; }
+    void startProgram(const std::string& path) override;
+
+private:
+    SimBuffer& buf(int id);
+    std::string bufName(int id);
+    double speechMs(const std::string& text) const;
+
+    Options opt_;
+    Runner& runner_;
+    std::uint64_t clock_ = 0;
+    double speechEnd_ = 0;
+    int rate_ = 0;
+    std::vector<Event> events_;
+    SimDevice device_;
+    std::function<void(int)> onKey_;
+    std::function<void()> onClose_;
+};
+
+}  // namespace sim

@@ -1,0 +1,13 @@
+// The transcript of greenlark-sim: one event a line, virtual ms first.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace sim {
+
+// A text in double quotes: \" \\ \r \n escaped, all else as it is.
+std::string quote(const std::string& text);
+void emit(std::uint64_t ms, const std::string& body);
+
+}  // namespace sim

@@ -1,0 +1,48 @@
+// The program entry: until start-up and the main menu are here, the game
+// opens its window, asks the player's name and reads it back.
+#include "session/entry.h"
+
+#include "platform/platform.h"
+#include "sound/bank.h"
+#include "voice/getter.h"
+#include "voice/keys.h"
+#include "voice/patterns.h"
+#include "voice/speech.h"
+
+namespace session {
+
+namespace {
+
+void wireEvents() {
+    auto& os = platform::os();
+    os.setKeyHandler([](int code) { voice::Form_KeyDown(code); });
+    os.setCloseHandler([] {
+        voice::clk();
+        voice::vs.g = "112";
+    });
+}
+
+}  // namespace
+
+void gamemain() {
+    auto& os = platform::os();
+    os.showWindow(" Greenlark  By Tobrell ");
+    wireEvents();
+    platform::attempt([&] { os.createVoice(); });
+    platform::attempt([&] { os.openSoundDevice(); });
+    while (true) {
+        voice::clk();
+        voice::getter(" Please enter your name. ");
+        if (voice::vs.g == "27") break;
+        std::string name = " " + voice::vs.r + " ";
+        voice::Question q;
+        q.text = " Is " + name + " correct for your name?";
+        if (voice::yesno(q)) {
+            voice::say(" Hello " + name + ". ");
+        }
+    }
+    platform::attempt([&] { os.releaseVoice(); });
+    os.endProcess();
+}
+
+}  // namespace session

@@ -1,0 +1,42 @@
+#include "voice/speech.h"
+
+#include "platform/platform.h"
+#include "voice/keys.h"
+
+namespace voice {
+
+void say(const std::string& text) { platform::os().speak(text, 0); }
+void say2(const std::string& text) { platform::os().speak(text, 1); }
+void stopspeech() { platform::os().speak("", 2); }
+
+void saynoc(int noc) {
+    if (noc < 10)
+        say2(" " + std::to_string(noc));
+    else
+        say2(" pitching wedge ");
+}
+
+namespace {
+void namekey(int flag) {
+    if (vs.keytog == 1) return;
+    auto& os = platform::os();
+    os.setRate(vs.vr + 5);
+    stopspeech();
+    if (vs.g != "112") os.speak(vs.g2, flag);
+    os.setRate(vs.vr);
+}
+}  // namespace
+
+void saykey() { namekey(1); }
+void saykey2() { namekey(0); }
+
+void speechwait(double first) {
+    auto& os = platform::os();
+    dy(first);
+    do {
+        os.yield();
+    } while (os.runningState() == 2 && vs.g.empty());
+    if (!vs.g.empty()) stopspeech();
+}
+
+}  // namespace voice
