@@ -112,7 +112,7 @@ void Runner::step() {
         size_t before = keyIndex_;
         if (!met(*cur_)) {
             if (cur_ && cur_->line == line && keyIndex_ == before && cur_->op != Op::Wait &&
-                cur_->op != Op::End && double(p_->now() - started_) > timeout_ * 1000.0) {
+                double(p_->now() - started_) > timeout_ * 1000.0) {
                 std::fprintf(stderr, "greenlark-sim: line %d: step not met within %g virtual seconds\n",
                              line, timeout_);
                 throw RunnerStop{1};

@@ -18,8 +18,20 @@ std::string quote(const std::string& text) {
     return out + "\"";
 }
 
+namespace {
+void (*currentSink)(const std::string&) = nullptr;
+}
+
+void setSink(void (*sink)(const std::string& line)) { currentSink = sink; }
+
 void emit(std::uint64_t ms, const std::string& body) {
-    std::printf("%llu %s\n", static_cast<unsigned long long>(ms), body.c_str());
+    std::string line = std::to_string(ms) + " " + body;
+    if (currentSink) {
+        currentSink(line);
+        return;
+    }
+    std::fputs(line.c_str(), stdout);
+    std::fputc('\n', stdout);
     std::fflush(stdout);
 }
 

@@ -1,0 +1,7 @@
+#include "course/course.h"
+
+namespace course {
+
+Course cs;
+
+}  // namespace course

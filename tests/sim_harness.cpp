@@ -1,0 +1,119 @@
+#include "sim_harness.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <sys/wait.h>
+
+#include "platform/platform.h"
+#include "platform/sim/runner.h"
+#include "platform/sim/sim_platform.h"
+#include "platform/sim/transcript.h"
+
+namespace simtest {
+
+namespace {
+
+std::vector<std::string>* captured = nullptr;
+void capture(const std::string& line) { captured->push_back(line); }
+
+std::string shellQuote(const std::string& s) {
+    std::string out = "'";
+    for (char c : s) out += c == '\'' ? std::string("'\\''") : std::string(1, c);
+    return out + "'";
+}
+
+std::string body(const std::string& line) {
+    size_t sp = line.find(' ');
+    return sp == std::string::npos ? line : line.substr(sp + 1);
+}
+
+}  // namespace
+
+int Result::find(const std::string& what, int from) const {
+    for (size_t i = size_t(from < 0 ? 0 : from); i < lines.size(); ++i)
+        if (body(lines[i]).find(what) != std::string::npos) return int(i);
+    return -1;
+}
+
+int Result::count(const std::string& what) const {
+    int n = 0;
+    for (const auto& l : lines)
+        if (body(l).find(what) != std::string::npos) ++n;
+    return n;
+}
+
+std::string Result::dump() const {
+    std::string out = "exit " + std::to_string(code) + "\n" + err;
+    for (const auto& l : lines) out += l + "\n";
+    return out;
+}
+
+std::string tempDir() {
+    std::string tmpl = (std::filesystem::temp_directory_path() / "greenlark-test-XXXXXX").string();
+    return mkdtemp(tmpl.data());
+}
+
+Result runBinary(const std::string& script, const std::vector<std::string>& options) {
+    std::string dir = tempDir();
+    std::string scriptPath = dir + "/script.sim", errPath = dir + "/stderr";
+    std::ofstream(scriptPath) << script;
+    std::string cmd = shellQuote(GREENLARK_SIM);
+    for (const auto& o : options) cmd += " " + shellQuote(o);
+    cmd += " " + shellQuote(scriptPath) + " 2>" + shellQuote(errPath);
+    Result r;
+    FILE* pipe = popen(cmd.c_str(), "r");
+    std::array<char, 4096> buf{};
+    std::string out;
+    while (pipe && std::fgets(buf.data(), int(buf.size()), pipe)) out += buf.data();
+    int status = pipe ? pclose(pipe) : -1;
+    r.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    std::istringstream in(out);
+    for (std::string l; std::getline(in, l);) r.lines.push_back(l);
+    std::ifstream e(errPath);
+    std::stringstream es;
+    es << e.rdbuf();
+    r.err = es.str();
+    std::filesystem::remove_all(dir);
+    return r;
+}
+
+Result runInProcess(const std::string& script, const std::function<void()>& program, const std::string& docs,
+                    const std::string& game) {
+    Result r;
+    captured = &r.lines;
+    sim::setSink(capture);
+    std::istringstream in(script);
+    sim::Runner runner(in, false, 900);
+    std::string error;
+    if (!runner.preload(error)) {
+        r.code = 2;
+        r.err = error;
+    } else {
+        sim::Options o;
+        o.game = o.cwd = game;
+        o.docs = docs;
+        sim::SimPlatform p(o, runner);
+        platform::install(&p);
+        try {
+            try {
+                program();
+            } catch (const platform::ProgramEnd&) {
+            }
+            p.log("exit");
+            r.code = runner.finish();
+        } catch (const sim::RunnerStop& stop) {
+            r.code = stop.code;
+        }
+        platform::install(nullptr);
+    }
+    sim::setSink(nullptr);
+    captured = nullptr;
+    return r;
+}
+
+}  // namespace simtest

@@ -1,0 +1,190 @@
+// The spoken menu, the waits and the key naming, run in this process on the
+// simulated platform.
+#include <gtest/gtest.h>
+
+#include "platform/platform.h"
+#include "sim_harness.h"
+#include "voice/keys.h"
+#include "voice/patterns.h"
+#include "voice/speech.h"
+
+using simtest::runInProcess;
+
+namespace {
+
+void wire() {
+    voice::vs = voice::KeyState{};
+    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
+}
+
+voice::Menu threeEntries() {
+    voice::Menu m;
+    m.header = " select ";
+    m.entries = {" one ", " two ", " three "};
+    m.hot = [](const std::string& g, const std::string&) { return g == "50" ? 2 : 0; };
+    return m;
+}
+
+int chosen = 0;
+
+TEST(MenuPattern, WrapsBothWaysWithoutRepeatingTheHeader) {
+    auto r = runInProcess(R"(expect " one "
+key Up
+expect " three "
+key Down
+expect " one "
+key Down Down Down Enter
+end
+)",
+                          [] {
+                              wire();
+                              chosen = voice::menu(threeEntries());
+                          });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    EXPECT_EQ(chosen, 1);
+    EXPECT_EQ(r.count("say2 \" select \""), 1);
+}
+
+TEST(MenuPattern, HotKeyMovesWithoutAcceptingAndOtherKeysRestart) {
+    auto r = runInProcess(R"(expect " one "
+key 2
+expect " two "
+key Q
+expect " select "
+key F1
+expect " select "
+key Enter
+end
+)",
+                          [] {
+                              wire();
+                              chosen = voice::menu(threeEntries());
+                          });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    EXPECT_EQ(chosen, 2) << "Q and F1 keep the pointer where it was";
+    EXPECT_TRUE(r.has("say2 \"q\""));
+}
+
+TEST(MenuPattern, ResetFlagsPutThePointerBack) {
+    auto r = runInProcess(R"(expect " one "
+key Down Q
+expect " select "
+key Enter
+end
+)",
+                          [] {
+                              wire();
+                              voice::Menu m = threeEntries();
+                              m.resetOnOther = true;
+                              chosen = voice::menu(m);
+                          });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST(Waits, DyLastsItsUnitsOf1025Milliseconds) {
+    std::uint32_t before = 0, after = 0;
+    auto r = runInProcess("end\n", [&] {
+        wire();
+        before = platform::os().tick();
+        voice::dy(0.3);
+        after = platform::os().tick();
+    });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    EXPECT_GE(double(after - before), 307.5);
+    EXPECT_LE(after - before, 309u);
+}
+
+TEST(Waits, KeysDuringDyStayAndClkDropsThem) {
+    std::string during, afterClk;
+    auto r = runInProcess("key A\nend\n", [&] {
+        wire();
+        voice::dy(0.5);
+        during = voice::vs.g;
+        voice::clk();
+        afterClk = voice::vs.g;
+    });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    EXPECT_EQ(during, "65");
+    EXPECT_EQ(afterClk, "");
+}
+
+TEST(Waits, SpeechWaitEndsAtAKeyAndHushes) {
+    std::uint32_t ended = 0;
+    auto r = runInProcess("wait 1\nkey Space\nend\n", [&] {
+        wire();
+        voice::say2(std::string(200, 'x'));   // twelve seconds of speech
+        voice::speechwait();
+        ended = platform::os().tick();
+    });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    EXPECT_LT(ended, 2000u);
+    EXPECT_GT(r.find("hush", r.find("key 32")), 0);
+}
+
+TEST(KeyNaming, KeytogSilencesSaykeyAndF1NamesNothing) {
+    auto r = runInProcess("key A\nkey F1\nend\n", [] {
+        wire();
+        voice::vs.keytog = 1;
+        voice::getkey();
+        voice::saykey();
+        voice::vs.keytog = 0;
+        voice::getkey();
+        voice::saykey2();
+    });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    EXPECT_FALSE(r.has("say2 \"a\""));
+    EXPECT_FALSE(r.has("say \"p\""));
+    // saykey speaks at the rate five above the voice's and puts it back.
+    EXPECT_TRUE(r.has("rate 5"));
+    EXPECT_TRUE(r.has("rate 0"));
+}
+
+TEST(KeyNaming, CharactersFollowTheKeyCode) {
+    EXPECT_EQ(voice::keychar(65), "a");
+    EXPECT_EQ(voice::keychar(112), "p");    // F1
+    EXPECT_EQ(voice::keychar(119), "w");    // F8
+    EXPECT_EQ(voice::keychar(99), "c");     // numeric pad 3
+    EXPECT_EQ(voice::keychar(105), "i");    // numeric pad 9
+    EXPECT_EQ(voice::keychar(107), "k");    // numeric pad plus
+    EXPECT_EQ(voice::keychar(110), "n");    // numeric pad point
+    EXPECT_EQ(voice::keychar(32), " ");
+    EXPECT_EQ(voice::keychar(192), "\u00e0");   // a grave, lower case of its code
+    EXPECT_EQ(voice::upperkey("a"), "A");
+    EXPECT_EQ(voice::upperkey("3"), "3");
+    EXPECT_EQ(voice::upperkey("\u00e0"), "\u00c0");
+}
+
+TEST(KeyEvent, PowerReadingOnlySetsTheKeyStrings) {
+    int ran = 0;
+    auto r = runInProcess("key F4 F10\nend\n", [&] {
+        wire();
+        voice::fkeys.speckeys = [&] { ++ran; };
+        voice::vs.wckp = 1;
+        while (voice::vs.g != "112") platform::os().yield();
+        voice::vs.wckp = 0;
+        voice::fkeys.speckeys = nullptr;
+    });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    EXPECT_EQ(ran, 0);
+}
+
+TEST(KeyEvent, FKeyRoutinesRunNestedAndLeaveF1) {
+    int ran = 0;
+    std::string seen;
+    auto r = runInProcess("key F4\nend\n", [&] {
+        wire();
+        voice::fkeys.speckeys = [&] {
+            ++ran;
+            voice::vs.g = "65";
+        };
+        voice::getkey();
+        seen = voice::vs.g;
+        voice::fkeys.speckeys = nullptr;
+    });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    EXPECT_EQ(ran, 1);
+    EXPECT_EQ(seen, "112");
+}
+
+}  // namespace
