@@ -4,6 +4,7 @@
 
 #include "platform/platform.h"
 #include "sound/bank.h"
+#include "sound/checks.h"
 #include "voice/getter.h"
 #include "voice/keys.h"
 #include "voice/patterns.h"
@@ -22,6 +23,17 @@ void wireEvents() {
     });
 }
 
+// The wave files must all be there with their sizes, and the power
+// indicators must run at their rate; otherwise the game cannot be played.
+bool wavesPass() {
+    sound::checkwaves();
+    if (sound::bk.fq == 13) return false;
+    sound::CheckHitWav();
+    if (sound::bk.fq == 13) return false;
+    sound::checkputtwav();
+    return sound::bk.fq != 13;
+}
+
 }  // namespace
 
 void gamemain() {
@@ -30,6 +42,12 @@ void gamemain() {
     wireEvents();
     platform::attempt([&] { os.createVoice(); });
     platform::attempt([&] { os.openSoundDevice(); });
+    if (!wavesPass()) {
+        sound::corruptFilesEnding();
+        os.endProcess();
+    }
+    sound::CreateSounds();
+    sound::bk.fq = 11025;
     while (true) {
         voice::clk();
         voice::getter(" Please enter your name. ");
