@@ -170,3 +170,27 @@ TEST(SimSound, CursorStatusAndTheAtStep) {
 }
 
 }  // namespace
+
+namespace {
+
+TEST(RunnerContract, CommandsFromStandardInput) {
+    std::string cmd = std::string("printf 'expect \"Please enter\"\\nkey Escape\\nend\\n' | '") + GREENLARK_SIM +
+                      "' - 2>&1; echo \"exit $?\"";
+    FILE* pipe = popen(cmd.c_str(), "r");
+    ASSERT_NE(pipe, nullptr);
+    std::string out;
+    char buf[4096];
+    while (std::fgets(buf, sizeof buf, pipe)) out += buf;
+    pclose(pipe);
+    EXPECT_NE(out.find("done 3"), std::string::npos) << out;
+    EXPECT_NE(out.find("exit 0"), std::string::npos) << out;
+    std::string bad = std::string("printf 'nonsense\\n' | '") + GREENLARK_SIM + "' - >/dev/null 2>&1; echo $?";
+    pipe = popen(bad.c_str(), "r");
+    ASSERT_NE(pipe, nullptr);
+    out.clear();
+    while (std::fgets(buf, sizeof buf, pipe)) out += buf;
+    pclose(pipe);
+    EXPECT_EQ(out, "2\n");
+}
+
+}  // namespace
