@@ -1,8 +1,15 @@
 // The program entry: until start-up and the main menu are here, the game
-// opens its window, asks the player's name and reads it back.
+// opens its window, asks the player's name, reads it back and plays a round
+// on the first built-in course.
 #include "session/entry.h"
 
+#include "course/course.h"
+#include "course/locs.h"
 #include "platform/platform.h"
+#include "platform/rnd.h"
+#include "round/driver.h"
+#include "round/state.h"
+#include "sound/ambient.h"
 #include "sound/bank.h"
 #include "sound/checks.h"
 #include "voice/getter.h"
@@ -34,6 +41,15 @@ bool wavesPass() {
     return sound::bk.fq != 13;
 }
 
+// Until the main menu exists: one round on the first built-in course.
+void roundOnFirstCourse(const std::string& name) {
+    if (course::cs.locs[1].empty()) course::fillLocs();
+    platform::reseed(platform::os().tick());
+    play::rs.pn = name;
+    play::rs.c = 1;
+    play::playround();
+}
+
 }  // namespace
 
 void gamemain() {
@@ -47,7 +63,13 @@ void gamemain() {
         os.endProcess();
     }
     sound::CreateSounds();
+    sound::countamb();
     sound::bk.fq = 11025;
+    // The opening jingle runs on in the ambient buffer while the game goes on.
+    platform::attempt([] {
+        sound::bk.ab = sound::loadbuffer("golf0", sound::bk.wavol);
+        platform::os().play(sound::bk.ab, 0);
+    });
     while (true) {
         voice::clk();
         voice::getter(" Please enter your name. ");
@@ -57,6 +79,8 @@ void gamemain() {
         q.text = " Is " + name + " correct for your name?";
         if (voice::yesno(q)) {
             voice::say(" Hello " + name + ". ");
+            roundOnFirstCourse(name);
+            break;
         }
     }
     platform::attempt([&] { os.releaseVoice(); });

@@ -1,0 +1,59 @@
+// The end of a hole and the end of the round.
+#include <cstdlib>
+
+#include "platform/platform.h"
+#include "platform/rnd.h"
+#include "round/driver.h"
+#include "round/inplay.h"
+#include "round/records.h"
+#include "round/session.h"
+#include "round/state.h"
+#include "sound/bank.h"
+#include "voice/keys.h"
+#include "voice/speech.h"
+
+namespace play {
+
+void endhole() {
+    rs.putts = 0;
+    rs.stks += rs.stk;
+    platform::attempt(loggit);
+    rs.hole += 1;
+    platform::reseed(platform::os().tick());
+    voice::dy(0.5);
+    rs.f1state = 4;
+    rs.virgin = 1;
+    platform::attempt(resaydidonhole);
+    voice::clk();
+    voice::say2(anyKeyPrompt);
+    keywait();
+    rs.stk = 0;
+}
+
+namespace {
+
+// The end's own wait: no ambience, and no key is swallowed.
+int endkey() {
+    voice::say2(anyKeyPrompt);
+    voice::clk();
+    while (voice::vs.g.empty()) platform::os().yield();
+    return std::atoi(voice::vs.g.c_str());
+}
+
+}  // namespace
+
+void endround() {
+    platform::attempt(clearsave);
+    sound::StopAllSounds();
+    sound::stopWater();
+    platform::attempt(sayendscore);
+    voice::clk();
+    if (rs.c != rs.nocs) platform::attempt(CheckRecords);
+    for (int code = endkey(); code > 111 && code < 120; code = endkey()) {
+        platform::attempt(sayendscore);   // F1 to F8 repeat the report
+        platform::attempt(SayRecOrNot);
+    }
+    rs.resumed = 0;
+}
+
+}  // namespace play

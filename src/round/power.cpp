@@ -1,0 +1,105 @@
+// The countdowns and the power readings of a swing and a putt.
+#include "round/power.h"
+
+#include "platform/platform.h"
+#include "round/session.h"
+#include "round/state.h"
+#include "sound/bank.h"
+#include "sound/checks.h"
+#include "sound/wave_table.h"
+#include "voice/keys.h"
+
+namespace play {
+
+int hitpowFrom(long position, long length) {
+    if (position == 0) position = 1;
+    long p = position * 100 / length;
+    int h = int(p > 50 ? 100 - p : p);
+    return h == 0 ? 1 : h;
+}
+
+namespace {
+
+// Three ticks at the power volume, each followed by a pause.
+void ticks() {
+    for (int i = 0; i < 3; ++i) {
+        sound::play3("golf16");
+        voice::dy(0.3);
+    }
+}
+
+void countdownhead() {
+    sound::StopAllSounds();
+    sound::playcrowdwav();
+    voice::dy(0.6);
+    ticks();
+}
+
+// Plays the indicator once into pb; true when a key came during it.
+bool indicatorpass(const std::string& stem) {
+    auto& os = platform::os();
+    sound::releaseField(sound::bk.pb);
+    sound::bk.pb = sound::loadbuffer(stem, sound::bk.wavol2);
+    os.play(sound::bk.pb, 0);
+    do {
+        os.yield();
+    } while (voice::vs.g.empty() && os.getStatus(sound::bk.pb) == 1);
+    if (!voice::vs.g.empty()) return true;
+    os.stop(sound::bk.pb);
+    sound::releaseField(sound::bk.pb);
+    return false;
+}
+
+// The reading itself, once the indicator's check has been made. With no
+// key the indicator plays again from its start, without end.
+void reading(const std::string& stem, long length) {
+    sound::StopAllSounds();
+    sound::playcrowdwav();
+    voice::clk();
+    while (!indicatorpass(stem)) {
+    }
+    auto& os = platform::os();
+    long position = os.getCurrentPosition(sound::bk.pb).play;
+    os.stop(sound::bk.pb);
+    sound::releaseField(sound::bk.pb);
+    rs.hitpow = hitpowFrom(position, length);
+    voice::vs.wckp = 0;
+}
+
+}  // namespace
+
+void GetHitPow() {
+    voice::vs.wckp = 1;
+    sound::CheckHitWav();
+    if (sound::bk.fq == 13) return;   // the reading is skipped
+    reading(sound::bk.powav == 0 ? "golf7" : "golf28", sound::hitIndicatorBytes);
+}
+
+void GetPuttPow() {
+    voice::vs.wckp = 1;
+    sound::checkputtwav();
+    reading(sound::bk.powav == 0 ? "golf6" : "golf27", sound::puttIndicatorBytes);
+}
+
+void swing() {
+    rs.savestate = 2;
+    voice::clk();
+    countdownhead();
+    sound::CheckHitWav();
+    if (sound::bk.fq == 13) leavegame();
+    rs.noclap = 0;
+    rs.misuse = 0;
+    GetHitPow();
+    rs.pw = rs.hitpow * 2 / 100.0;
+}
+
+void puttswing() {
+    countdownhead();
+    sound::checkputtwav();
+    if (sound::bk.fq == 13) leavegame();
+    rs.pw = 0;
+    rs.noclap = 0;
+    GetPuttPow();
+}
+
+}  // namespace play
