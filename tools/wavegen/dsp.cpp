@@ -226,4 +226,22 @@ Samples loopJoin(const Samples& material, long frames, long cross) {
     return out;
 }
 
+Samples engine(Rng& rng, int rate, double seconds, const Curve& firingHz, const EngineTone& tone) {
+    Samples s(size_t(framesOf(seconds, rate)), 0.0f);
+    double phase = 1;
+    float pulse = 1;
+    for (size_t i = 0; i < s.size(); ++i) {
+        phase += firingHz.at(double(i) / rate) / rate;
+        if (phase >= 1) {
+            phase -= 1;
+            pulse = float(1 + tone.roughness * rng.gauss());
+        }
+        double shape = std::exp(-phase * tone.decay);
+        s[i] = float(pulse * shape + tone.hiss * rng.noise());
+    }
+    filter(s, Pass::low, tone.cutoff, tone.q, rate);
+    filter(s, Pass::high, 25, 0.7, rate);
+    return s;
+}
+
 }  // namespace wavegen

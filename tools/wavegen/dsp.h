@@ -66,4 +66,11 @@ void distant(Samples& s, int rate, double cutoff, double wet, double size = 0.7)
 // must be at least frames + cross long.
 Samples loopJoin(const Samples& material, long frames, long cross);
 
+// An engine: a pulse per firing whose rate follows a curve, each firing a
+// little different, with a hiss, through a low-pass.
+struct EngineTone {
+    double roughness, cutoff, q, decay, hiss;
+};
+Samples engine(Rng& rng, int rate, double seconds, const Curve& firingHz, const EngineTone& tone);
+
 }  // namespace wavegen

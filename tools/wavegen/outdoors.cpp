@@ -29,26 +29,6 @@ void knock(Job& j, Samples& s, double t, double amp) {
     addMode(s, at, hz * 0.45, 0.015, amp * 0.4, j.rate);
 }
 
-// An engine: a pulse per firing whose rate follows a curve, each a little
-// different, through a low-pass.
-Samples engine(Rng& rng, int rate, double seconds, const Curve& firingHz, double roughness, double cutoff) {
-    Samples s(size_t(framesOf(seconds, rate)), 0.0f);
-    double phase = 1;
-    float pulse = 1;
-    for (size_t i = 0; i < s.size(); ++i) {
-        phase += firingHz.at(double(i) / rate) / rate;
-        if (phase >= 1) {
-            phase -= 1;
-            pulse = float(1 + roughness * rng.gauss());
-        }
-        double shape = std::exp(-phase * 6);
-        s[i] = float(pulse * shape + 0.15 * rng.noise());
-    }
-    filter(s, Pass::low, cutoff, 0.9, rate);
-    filter(s, Pass::high, 25, 0.7, rate);
-    return s;
-}
-
 // A bell: hum, prime, minor third, fifth, nominal and above, long decays.
 void toll(Samples& s, long at, double hz, double amp, int rate) {
     static const double partials[][3] = {{0.5, 2.5, 0.5}, {1.0, 1.6, 0.7}, {1.19, 1.2, 0.45}, {1.5, 0.9, 0.3},
@@ -140,7 +120,7 @@ Samples woodpecker(Job& j) {
 Samples distantMower(Job& j) {
     double len = j.seconds();
     Curve firing{{0, 46}, {1.5, 48}, {2.2, 42}, {3.5, 47}, {len, 45}};
-    Samples s = engine(j.rng, j.rate, len, firing, 0.3, 900);
+    Samples s = engine(j.rng, j.rate, len, firing, {0.3, 900, 0.9, 6, 0.15});
     Samples whine = glide(Curve{{0, 184}, {2.2, 170}, {len, 180}}, len, j.rate);
     mixAt(s, whine, 0, 0.15);
     scaleBy(s, Curve{{0, 0}, {1.0, 0.6}, {3.0, 1}, {5.0, 0.5}, {len, 0}}, j.rate);

@@ -8,29 +8,11 @@ namespace wavegen {
 
 namespace {
 
-// Engine firing pulses along a rate curve, with a little roughness.
-Samples engineNote(Rng& rng, int rate, double seconds, const Curve& firingHz, double roughness) {
-    Samples s(size_t(framesOf(seconds, rate)), 0.0f);
-    double phase = 1;
-    float pulse = 1;
-    for (size_t i = 0; i < s.size(); ++i) {
-        phase += firingHz.at(double(i) / rate) / rate;
-        if (phase >= 1) {
-            phase -= 1;
-            pulse = float(1 + roughness * rng.gauss());
-        }
-        s[i] = float(pulse * std::exp(-phase * 5) + 0.1 * rng.noise());
-    }
-    filter(s, Pass::low, 700, 0.8, rate);
-    filter(s, Pass::high, 25, 0.7, rate);
-    return s;
-}
-
 // A car going by: engine and tyres, level swelling then falling away, the
 // pitch falling as it passes.
 Samples carPass(Rng& rng, int rate, double seconds, double firing, double peakAt) {
     Curve hz{{0, firing * 1.04}, {peakAt - 0.3, firing * 1.03}, {peakAt + 0.3, firing * 0.96}, {seconds, firing * 0.95}};
-    Samples s = engineNote(rng, rate, seconds, hz, 0.15);
+    Samples s = engine(rng, rate, seconds, hz, {0.15, 700, 0.8, 5, 0.1});
     Samples tyres = pinkNoise(rng, framesOf(seconds, rate));
     filter(tyres, Pass::band, Curve{{0, 700}, {peakAt, 1100}, {seconds, 600}}, 0.7, rate);
     mixAt(s, tyres, 0, 1.2);
@@ -80,14 +62,14 @@ Samples engineStartIdle(Job& j) {
     // The starter motor cranking: a geared whine, chugging with each compression.
     Samples starter = sawTone(Curve{{0, 140}, {0.9, 170}}, 0.9, j.rate, 20);
     filter(starter, Pass::low, 1500, 0.8, j.rate);
-    Samples chug = engineNote(j.rng, j.rate, 0.9, Curve{{0, 8}, {0.9, 10}}, 0.1);
+    Samples chug = engine(j.rng, j.rate, 0.9, Curve{{0, 8}, {0.9, 10}}, {0.1, 700, 0.8, 5, 0.1});
     for (size_t i = 0; i < starter.size(); ++i) starter[i] = float(starter[i] * (0.3 + 0.5 * std::fabs(chug[i])));
     mixAt(starter, chug, 0, 0.5);
     scaleBy(starter, Curve{{0, 0}, {0.05, 1}, {0.85, 1}, {0.9, 0}}, j.rate);
     mixAt(s, starter, j.at(0.2), 0.6);
     // It catches, revs, and settles to idle.
     Curve firing{{0, 20}, {0.25, 55}, {0.7, 45}, {1.3, 28}, {len, 27}};
-    Samples run = engineNote(j.rng, j.rate, len - 1.05, firing, 0.1);
+    Samples run = engine(j.rng, j.rate, len - 1.05, firing, {0.1, 700, 0.8, 5, 0.1});
     scaleBy(run, Curve{{0, 0}, {0.05, 1}, {0.6, 1}, {1.3, 0.6}}, j.rate);
     mixAt(s, run, j.at(1.05), 1.0);
     distant(s, j.rate, 3000, 0.3, 0.6);
