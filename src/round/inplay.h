@@ -1,5 +1,10 @@
-// The key wait of play and the message for a key that is no choice.
+// The key wait of play with the commands a player can give at any prompt of
+// a round, the two Escape menus, the review of the log, and the message for
+// a key that is no choice.
 #pragma once
+
+#include <string>
+#include <vector>
 
 namespace play {
 
@@ -8,10 +13,31 @@ namespace play {
 struct LeaveRound {};
 
 // Idles until a key comes that the caller has to answer; leaves g, g2 and
-// keynum. The commands of play are done inside it.
+// keynum. The commands of play are done inside it. A return from an Escape
+// menu hands back g = "112" with g2 empty and keynum 27.
 void keywait();
 // " That is not A-choice. ", the error sound and " please try again. ";
 // silent for the F1 that a menu leaves behind.
 void notchoice();
+
+// The Escape menu at the beginning of a hole, with saving, and the one in
+// play. The other entries leave the round or the program; "return to game"
+// comes back with g = "112" and g2 empty.
+void escmenu();
+void escmenu2();
+// F7: the log hole by hole; Escape leaves it with g = "113", so that the
+// key wait goes on with the report of the stage.
+void logreview();
+
+// The review's entries from the log's text: the head skipped, then two
+// lines joined by a blank for each entry. A line that is missing repeats
+// the last one read; there is always at least one entry.
+std::vector<std::string> logentries(const std::string& text);
+inline constexpr int maxLogEntries = 111;
+
+// F3: what each club reaches, behind the player's name.
+inline constexpr const char* bagText =
+    " This Is Your Bag Of Clubs, Woods 1 thru 4 300 to 250 Yards, Irons 1 thru 9 250 to   0 Yards, "
+    "Pitching Wedge 100 to   0 Yards ";
 
 }  // namespace play

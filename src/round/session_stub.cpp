@@ -1,7 +1,8 @@
 // Stand-in for the saved game, the course picker and the leaving until they
-// exist: there is never a saved game, the course is the one already in c
-// (built-in courses only), and leaving stops the sounds and ends the
-// process.
+// exist: there is never a saved game and saving writes nothing, the course
+// is the one already in c (built-in courses only), and leaving stops the
+// sounds and ends the process. The player's folder is taken from the
+// documents folder until start-up keeps it.
 #include "course/builtin.h"
 #include "course/course.h"
 #include "platform/platform.h"
@@ -12,9 +13,13 @@
 
 namespace play {
 
+std::string kp() { return platform::os().documentsFolder() + "/brindlewick"; }
+
 void loadgame() { rs.resumed = 0; }
 
 void clearsave() {}
+
+void savegame() { leavegame(); }
 
 void pickcourse() {
     startlog(rs.c);

@@ -25,6 +25,7 @@ struct RoundState {
     int resumed = 0;   // 1 when this round came from a saved game
     int resumeskip = 0;  // 1 until the first starthole after a resume
     int nsaves = 0;    // times this round was saved
+    int savedexit = 0; // 1 once the player chose to save and leave: the save stays
 
     // ---- the hole, set by starthole
     int par = 0;
@@ -43,6 +44,8 @@ struct RoundState {
     double offl = 0;   // yards off line of the last shot, never rounded
     int hitpow = 0;    // last power reading, 1..50
     double pw = 0;     // swing fraction hitpow * 2 / 100; 0 once a putt begins
+    double puttpow = 0;  // strength of the last putt, hitpow / 5; kept from hole to hole
+    double puttfeet = 0; // feet the last putt travelled, puttpow * 4
     double club = 0;   // club value of the distance formula
     int noc = 1;       // club pointer of the prompt, 1..10; 10 the wedge
     double keynum = 0; // numeric value of the last key keywait handled

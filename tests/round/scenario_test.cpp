@@ -46,7 +46,8 @@ int countBetween(const simtest::Result& r, const std::string& what, int from, in
 }
 
 TEST(RoundScenario, FirstTeeDescriptionThenTheClubPrompt) {
-    auto r = runBinary(std::string(kToTheTee) + "expect \"Select Your Club\"\nexpect \" 1\"\nkey Escape\nend\n");
+    auto r = runBinary(std::string(kToTheTee) + "expect \"Select Your Club\"\nexpect \" 1\"\nkey Escape\n"
+                                         "expect \" save and exit game \"\nkey Down Enter\nend\n");
     ASSERT_EQ(r.code, 0) << r.dump();
     int hello = r.find("say \" Hello  Jo . \"");
     int desc = r.find(

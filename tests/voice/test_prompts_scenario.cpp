@@ -152,6 +152,8 @@ type Jo
 key Enter Y
 expect " Hello  Jo . "
 key Escape
+expect " save and exit game "
+key Down Enter
 end
 )");
     ASSERT_EQ(r.code, 0) << r.dump();
