@@ -1,0 +1,30 @@
+#!/bin/bash
+# The mixer's play cursor against what a live device really played: the real
+# platform plays a looping click through a private PulseAudio null sink
+# (SDL_AUDIODRIVER=pulseaudio, 256-frame period) while a timestamping
+# recorder reads the sink's monitor; each reported cursor is compared with
+# the time since the click was heard.
+# usage: bench/cursor_live.sh [BUILD_DIR] [SECONDS]
+# Target: p99 under 2 ms.
+set -u
+HERE=$(cd "$(dirname "$0")" && pwd)
+BUILD=$(cd "${1:-$HERE/../build-real}" && pwd)
+SECONDS_MEASURED=${2:-10}
+. "$HERE/rig.sh"
+for tool in bench_record bench_cursor_live; do
+  [ -x "$BUILD/bench/$tool" ] || { echo "build $tool first (ninja -C $BUILD $tool)"; exit 1; }
+done
+
+rig_pulse
+rig_xvfb || exit 1
+"$BUILD/bench/bench_record" cap.monitor "$RIG/rec" 96 &
+RECORDER=$!
+rig_track $RECORDER
+# The recorder settles before the sound starts.
+sleep 3
+SDL_AUDIODRIVER=pulseaudio "$BUILD/bench/bench_cursor_live" "$RIG" "$SECONDS_MEASURED" 2>"$RIG/live.log"
+sleep 0.3
+kill $RECORDER
+wait $RECORDER
+echo "play cursor on a live device (pulseaudio null sink), ${SECONDS_MEASURED} s"
+/usr/bin/python3 "$HERE/cursor_live.py" "$RIG/rec" "$RIG/cursor"

@@ -1,0 +1,37 @@
+#!/bin/bash
+# CPU use of the real game waiting at its first prompt (the name prompt).
+# usage: bench/idle_cpu.sh [BUILD_DIR] [AUDIO_DRIVER] [SECONDS]
+#   AUDIO_DRIVER: dummy (default) or pulseaudio (a private null sink)
+# Target: under 2 % of one core.
+set -u
+HERE=$(cd "$(dirname "$0")" && pwd)
+BUILD=$(cd "${1:-$HERE/../build-real}" && pwd)
+DRIVER=${2:-dummy}
+SECONDS_MEASURED=${3:-10}
+. "$HERE/rig.sh"
+
+rig_xvfb || exit 1
+[ "$DRIVER" = pulseaudio ] && rig_pulse
+cd "$BUILD/game" || exit 1
+SDL_AUDIODRIVER=$DRIVER ./greenlark >"$RIG/game.log" 2>&1 &
+GAME=$!
+rig_track $GAME
+rig_window >/dev/null || { echo "the game's window never came"; exit 1; }
+# The opening jingle and the prompt end well within this.
+sleep 6
+
+ticks() { awk '{print $14 + $15}' "$1"; }
+declare -A before
+for t in /proc/$GAME/task/*; do before[$t]=$(ticks $t/stat); done
+c0=$(ticks /proc/$GAME/stat); t0=$(date +%s.%N)
+sleep "$SECONDS_MEASURED"
+c1=$(ticks /proc/$GAME/stat); t1=$(date +%s.%N)
+hz=$(getconf CLK_TCK)
+echo "greenlark waiting at the name prompt, audio driver $DRIVER, ${SECONDS_MEASURED} s"
+for t in /proc/$GAME/task/*; do
+  [ -n "${before[$t]:-}" ] || continue
+  awk -v n="$(cat $t/comm)" -v a="${before[$t]}" -v b="$(ticks $t/stat)" -v hz=$hz -v s="$t0" -v e="$t1" \
+    'BEGIN { printf "  thread %-16s %6.2f %%\n", n, (b - a) / hz / (e - s) * 100 }'
+done
+awk -v a=$c0 -v b=$c1 -v hz=$hz -v s="$t0" -v e="$t1" \
+  'BEGIN { printf "CPU of the whole process: %.2f %% of one core (target: under 2 %%)\n", (b - a) / hz / (e - s) * 100 }'

@@ -1,0 +1,64 @@
+# Sourced by the benchmark scripts: a private PulseAudio with a null sink
+# "cap" and a private Xvfb, both in a temporary folder and stopped by
+# process id when the script ends.
+#   rig_pulse      starts PulseAudio (sets HOME and XDG_RUNTIME_DIR)
+#   rig_xvfb       starts Xvfb on a free display (sets DISPLAY)
+#   rig_window     waits for the game's window, prints its id
+#   rig_track PID  stops PID when the script ends
+
+RIG=$(mktemp -d "${TMPDIR:-/tmp}/greenlark-bench-XXXXXX")
+RIG_PIDS=()
+
+rig_track() { RIG_PIDS+=("$1"); }
+
+rig_stop() {
+  local pid
+  for ((i=${#RIG_PIDS[@]}-1; i>=0; i--)); do
+    pid=${RIG_PIDS[$i]}
+    kill "$pid" 2>/dev/null
+    for _ in $(seq 30); do kill -0 "$pid" 2>/dev/null || break; sleep 0.1; done
+    kill -9 "$pid" 2>/dev/null
+  done
+  [ -n "${RIG_KEEP:-}" ] || rm -rf "$RIG"
+}
+trap rig_stop EXIT
+
+rig_pulse() {
+  export HOME=$RIG/home XDG_RUNTIME_DIR=$RIG/xdg
+  mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+  # Run as root without a session bus: warnings about both are harmless.
+  pulseaudio -D -n --exit-idle-time=-1 --disallow-exit \
+    --load="module-native-protocol-unix" \
+    --load="module-null-sink sink_name=cap rate=48000 format=s16le channels=2" \
+    --log-target=file:"$RIG/pulse.log" 2>/dev/null
+  for _ in $(seq 50); do pactl info >/dev/null 2>&1 && break; sleep 0.1; done
+  rig_track "$(cat "$XDG_RUNTIME_DIR/pulse/pid")"
+  pactl set-default-sink cap
+}
+
+rig_xvfb() {
+  local n
+  for n in $(seq 150 199); do
+    [ -e /tmp/.X11-unix/X$n ] || [ -e /tmp/.X$n-lock ] && continue
+    Xvfb :$n -screen 0 640x480x24 -nolisten tcp -noreset >"$RIG/xvfb.log" 2>&1 &
+    local pid=$!
+    for _ in $(seq 50); do [ -e /tmp/.X11-unix/X$n ] && break; kill -0 $pid 2>/dev/null || break; sleep 0.1; done
+    if [ -e /tmp/.X11-unix/X$n ] && kill -0 $pid 2>/dev/null; then
+      rig_track $pid
+      export DISPLAY=:$n
+      return 0
+    fi
+  done
+  echo "no free display for Xvfb" >&2
+  return 1
+}
+
+rig_window() {
+  local w
+  for _ in $(seq 100); do
+    w=$(xdotool search --name Greenlark 2>/dev/null | head -1)
+    [ -n "$w" ] && { echo "$w"; return 0; }
+    sleep 0.1
+  done
+  return 1
+}

@@ -1,0 +1,23 @@
+// The real program: the SDL2 platform under the game.
+#include <cstdio>
+#include <exception>
+
+#include "platform/real/sdl_platform.h"
+#include "session/entry.h"
+
+int main() {
+    try {
+        platform::real::SdlPlatform sdl;
+        platform::install(&sdl);
+        try {
+            session::gamemain();
+        } catch (const platform::ProgramEnd&) {
+        }
+        sdl.shutdown();
+        platform::install(nullptr);
+    } catch (const std::exception& e) {
+        std::fprintf(stderr, "greenlark: %s\n", e.what());
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,108 @@
+#include "platform/real/mixer.h"
+
+#include <algorithm>
+
+namespace platform::real {
+
+Mixer::Mixer(int deviceRate, int latencyFrames) : rate_(deviceRate), clock_(deviceRate, latencyFrames) {}
+
+Sound& Mixer::find(int id) {
+    auto it = sounds_.find(id);
+    if (it == sounds_.end()) throw Failure("no sound buffer " + std::to_string(id));
+    return *it->second;
+}
+
+int Mixer::add(const Wave& wave) {
+    auto sound = std::make_unique<Sound>(decodeSound(wave));
+    std::lock_guard lock(mutex_);
+    int id = nextId_++;
+    sounds_.emplace(id, std::move(sound));
+    return id;
+}
+
+void Mixer::release(int id) {
+    std::unique_ptr<Sound> gone;
+    {
+        std::lock_guard lock(mutex_);
+        auto it = sounds_.find(id);
+        if (it == sounds_.end()) throw Failure("no sound buffer " + std::to_string(id));
+        gone = std::move(it->second);
+        sounds_.erase(it);
+    }
+}
+
+void Mixer::releaseAll() {
+    std::map<int, std::unique_ptr<Sound>> gone;
+    std::lock_guard lock(mutex_);
+    gone.swap(sounds_);
+}
+
+void Mixer::play(int id, bool loop) {
+    std::lock_guard lock(mutex_);
+    Sound& s = find(id);
+    if (!s.playing) restartHistory(s, s.pos);
+    s.playing = true;
+    s.looping = loop;
+}
+
+void Mixer::stop(int id, std::int64_t now) {
+    std::lock_guard lock(mutex_);
+    Sound& s = find(id);
+    if (s.playing) s.pos = heardPosition(s, heardFrame(now));
+    s.playing = false;
+    restartHistory(s, s.pos);
+}
+
+int Mixer::status(int id, std::int64_t now) {
+    std::lock_guard lock(mutex_);
+    Sound& s = find(id);
+    if (s.playing) return s.looping ? 5 : 1;
+    if (s.endPending && heardFrame(now) < double(s.endFrame)) return 1;
+    s.endPending = false;
+    return 0;
+}
+
+void Mixer::setPosition(int id, long bytes) {
+    std::lock_guard lock(mutex_);
+    Sound& s = find(id);
+    long frame = std::clamp(bytes / s.blockAlign, 0L, std::max(s.frames - 1, 0L));
+    s.pos = double(frame);
+    restartHistory(s, s.pos);
+}
+
+CursorPair Mixer::position(int id, std::int64_t now) {
+    std::lock_guard lock(mutex_);
+    Sound& s = find(id);
+    CursorPair c;
+    c.play = long(heardPosition(s, heardFrame(now))) * s.blockAlign;
+    c.write = s.playing ? long(s.pos) * s.blockAlign : c.play;
+    return c;
+}
+
+void Mixer::setVolume(int id, int hundredthsDb) {
+    std::lock_guard lock(mutex_);
+    Sound& s = find(id);
+    s.volume = hundredthsDb;
+    applyGains(s);
+}
+
+void Mixer::setPan(int id, int hundredthsDb) {
+    std::lock_guard lock(mutex_);
+    Sound& s = find(id);
+    s.pan = std::clamp(hundredthsDb, -10000, 10000);
+    applyGains(s);
+}
+
+int Mixer::frequency(int id) {
+    std::lock_guard lock(mutex_);
+    return find(id).frequency;
+}
+
+void Mixer::setFrequency(int id, int hz) {
+    std::lock_guard lock(mutex_);
+    Sound& s = find(id);
+    if (hz < 0) throw Failure("bad frequency");
+    if (hz > 0) s.frequency = hz;
+}
+
+}  // namespace platform::real

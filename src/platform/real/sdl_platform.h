@@ -1,0 +1,105 @@
+// The real platform: an SDL2 window that takes the keyboard, our mixer on
+// SDL's audio callback, and espeak-ng speech mixed into the same output.
+#pragma once
+
+#include <SDL2/SDL.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/platform.h"
+#include "platform/real/audio_output.h"
+#include "platform/real/pacer.h"
+#include "platform/real/speech_engine.h"
+
+namespace platform::real {
+
+class SdlPlatform : public Platform {
+public:
+    SdlPlatform();
+    ~SdlPlatform() override;
+    SdlPlatform(const SdlPlatform&) = delete;
+    SdlPlatform& operator=(const SdlPlatform&) = delete;
+
+    // Releases the voice, the audio and the window. Safe to call twice.
+    void shutdown();
+
+    void showWindow(const std::string& caption) override;
+    void setKeyHandler(std::function<void(int)> onKey) override { onKey_ = std::move(onKey); }
+    void setCloseHandler(std::function<void()> onClose) override { onClose_ = std::move(onClose); }
+    void yield() override;
+    std::uint32_t tick() override { return SDL_GetTicks(); }
+    void dueAt(std::uint32_t ms) override { pacer_.dueAt(ms); }
+    void messageBox(const std::string& text) override;
+    void beep() override;
+    std::string dateText() override;
+    double timeOfDay() override;
+    [[noreturn]] void endProcess() override;
+
+    int voiceCount() override;
+    std::string voiceName(int index) override;
+    void createVoice() override;
+    void releaseVoice() override;
+    void setVoice(int index) override;
+    void setRate(int rate) override;
+    void setVolume(int volume) override;
+    void speak(const std::string& text, int flag) override;
+    int runningState() override;
+
+    void openSoundDevice() override;
+    void closeSoundDevice() override;
+    int createBuffer(const std::string& path) override;
+    void releaseBuffer(int id) override;
+    int getFrequency(int id) override;
+    void setFrequency(int id, int hz) override;
+    void setCurrentPosition(int id, long bytes) override;
+    CursorPair getCurrentPosition(int id) override;
+    void setVolumeDb(int id, int hundredthsDb) override;
+    void setPan(int id, int hundredthsDb) override;
+    void play(int id, int loopFlag) override;
+    int getStatus(int id) override;
+    void stop(int id) override;
+    void restore(int id) override;
+
+    std::vector<DirEntry> list(const std::string& pattern) override;
+    void makeDir(const std::string& path) override;
+    void removeFile(const std::string& path) override;
+    std::string readFile(const std::string& path) override;
+    void writeFile(const std::string& path, const std::string& data) override;
+    void appendFile(const std::string& path, const std::string& data) override;
+    std::string documentsFolder() override;
+    std::string programFolder() override;
+    void startProgram(const std::string& path) override;
+
+private:
+    void openAudio();
+    void deliver(const SDL_Event& e);
+    bool nextEvent(SDL_Event& e);
+    // The mixer; throws Failure when the sound device is not open.
+    Mixer& openMixer();
+    // The mixer for a call on game sound `id`; throws Failure when the sound
+    // device is not open or the id is not the game's.
+    Mixer& soundsFor(int id);
+    void applyVoice();
+
+    SDL_Window* window_ = nullptr;
+    std::string caption_;
+    std::function<void(int)> onKey_;
+    std::function<void()> onClose_;
+    Pacer pacer_;
+    std::uint32_t wakeEvent_ = 0;
+    bool sdlUp_ = false;
+
+    std::unique_ptr<AudioOutput> audio_;
+    std::unique_ptr<SpeechEngine> speech_;
+    bool soundOpen_ = false;
+    int beepId_ = 0;
+
+    bool voiceMade_ = false;
+    int voiceIndex_ = 0;
+    int rate_ = 0;
+    int volume_ = 100;
+};
+
+}  // namespace platform::real

@@ -1,0 +1,83 @@
+// The platform's sound calls, answered by the mixer.
+#include "platform/files.h"
+#include "platform/real/device_clock.h"
+#include "platform/real/sdl_platform.h"
+#include "platform/real/tone.h"
+
+namespace platform::real {
+
+void SdlPlatform::openSoundDevice() {
+    if (!audio_) throw Failure("no sound device");
+    soundOpen_ = true;
+}
+
+void SdlPlatform::closeSoundDevice() {
+    if (audio_ && soundOpen_) {
+        audio_->mixer().releaseAll();
+        beepId_ = 0;
+    }
+    soundOpen_ = false;
+}
+
+Mixer& SdlPlatform::openMixer() {
+    if (!audio_ || !soundOpen_) throw Failure("the sound device is not open");
+    return audio_->mixer();
+}
+
+// The beep's buffer is the platform's own, not one of the game's.
+Mixer& SdlPlatform::soundsFor(int id) {
+    Mixer& mixer = openMixer();
+    if (id == beepId_) throw Failure("no sound buffer " + std::to_string(id));
+    return mixer;
+}
+
+int SdlPlatform::createBuffer(const std::string& path) {
+    Mixer& mixer = openMixer();
+    auto wave = parseWave(files::read("", path));
+    if (!wave) throw Failure("not a wave file we can play: " + path);
+    pacer_.active();
+    return mixer.add(*wave);
+}
+
+void SdlPlatform::releaseBuffer(int id) { soundsFor(id).release(id); }
+
+int SdlPlatform::getFrequency(int id) { return soundsFor(id).frequency(id); }
+
+void SdlPlatform::setFrequency(int id, int hz) { soundsFor(id).setFrequency(id, hz); }
+
+void SdlPlatform::setCurrentPosition(int id, long bytes) {
+    soundsFor(id).setPosition(id, bytes);
+    pacer_.active();
+}
+
+CursorPair SdlPlatform::getCurrentPosition(int id) { return soundsFor(id).position(id, monotonicNs()); }
+
+void SdlPlatform::setVolumeDb(int id, int hundredthsDb) { soundsFor(id).setVolume(id, hundredthsDb); }
+
+void SdlPlatform::setPan(int id, int hundredthsDb) { soundsFor(id).setPan(id, hundredthsDb); }
+
+void SdlPlatform::play(int id, int loopFlag) {
+    soundsFor(id).play(id, loopFlag != 0);
+    pacer_.active();
+}
+
+int SdlPlatform::getStatus(int id) { return soundsFor(id).status(id, monotonicNs()); }
+
+void SdlPlatform::stop(int id) {
+    soundsFor(id).stop(id, monotonicNs());
+    pacer_.active();
+}
+
+// Our buffers live in memory and are never lost.
+void SdlPlatform::restore(int id) { soundsFor(id).frequency(id); }
+
+void SdlPlatform::beep() {
+    if (!audio_) return;
+    Mixer& mixer = audio_->mixer();
+    if (beepId_ == 0) beepId_ = mixer.add(toneWave(880, 100, mixer.rate()));
+    mixer.setPosition(beepId_, 0);
+    mixer.play(beepId_, false);
+    pacer_.active();
+}
+
+}  // namespace platform::real

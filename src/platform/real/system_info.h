@@ -1,0 +1,21 @@
+// What the platform tells about the machine: the date, the player's
+// documents folder, the program's folder, and starting other programs.
+#pragma once
+
+#include <ctime>
+#include <string>
+
+namespace platform::real {
+
+// Month first, without leading zeros: "11/22/2026".
+std::string shortDate(const std::tm& local);
+double secondsSinceMidnight(const std::tm& local);
+// The documents folder named in user-dirs.dirs under `configHome`, else
+// `home`/Documents; empty when the folder found does not exist.
+std::string documentsFolderOf(const std::string& home, const std::string& configHome);
+std::string executableFolder();
+// Starts a program, or opens a document with the desktop's opener, without
+// waiting for it. Throws Failure when neither can be done.
+void launch(const std::string& path);
+
+}  // namespace platform::real

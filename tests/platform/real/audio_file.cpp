@@ -1,0 +1,61 @@
+#include "audio_file.h"
+
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+
+namespace realtest {
+
+namespace {
+
+constexpr double kLoud = 0.01;   // -40 dBFS
+constexpr size_t kStretch = kDiskRate / 100;
+
+}  // namespace
+
+long framesIn(const std::string& path) {
+    std::error_code ec;
+    auto size = std::filesystem::file_size(path, ec);
+    return ec ? 0 : long(size / 8);
+}
+
+std::vector<float> leftChannel(const std::string& path, long from) {
+    std::ifstream in(path, std::ios::binary);
+    in.seekg(from * 8);
+    std::vector<float> out;
+    float frame[2];
+    while (in.read(reinterpret_cast<char*>(frame), sizeof frame)) out.push_back(frame[0]);
+    return out;
+}
+
+std::vector<double> tenMsLoudness(const std::vector<float>& samples) {
+    std::vector<double> rms;
+    for (size_t at = 0; at + kStretch <= samples.size(); at += kStretch) {
+        double sum = 0;
+        for (size_t i = at; i < at + kStretch; ++i) sum += double(samples[i]) * samples[i];
+        rms.push_back(std::sqrt(sum / kStretch));
+    }
+    return rms;
+}
+
+bool soundsLikeSpeech(const std::vector<float>& samples, int minMs) {
+    std::vector<double> loud;
+    for (double r : tenMsLoudness(samples))
+        if (r > kLoud) loud.push_back(r);
+    if (int(loud.size()) * 10 < minMs) return false;
+    auto [low, high] = std::minmax_element(loud.begin(), loud.end());
+    return *high > 2.0 * *low;
+}
+
+bool endsInSilence(const std::vector<float>& samples, int quietMs) {
+    auto rms = tenMsLoudness(samples);
+    size_t tail = size_t(quietMs / 10);
+    if (rms.size() <= tail) return false;
+    auto quietFrom = rms.end() - long(tail);
+    bool soundBefore = std::any_of(rms.begin(), quietFrom, [](double r) { return r > kLoud; });
+    bool quietAfter = std::all_of(quietFrom, rms.end(), [](double r) { return r <= kLoud; });
+    return soundBefore && quietAfter;
+}
+
+}  // namespace realtest

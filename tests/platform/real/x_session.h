@@ -1,0 +1,45 @@
+// An X server of the test's own (Xvfb on a free display) and the programs
+// the real-platform tests drive through it.
+#pragma once
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace realtest {
+
+bool onPath(const std::string& program);
+
+class XServer {
+public:
+    XServer();
+    ~XServer();
+    XServer(const XServer&) = delete;
+    XServer& operator=(const XServer&) = delete;
+
+    bool running() const { return pid_ > 0; }
+    const std::string& display() const { return display_; }
+    // Runs a shell command with this display; returns what it printed.
+    std::string run(const std::string& command) const;
+    // Starts a shell command with this display and does not wait.
+    pid_t start(const std::string& command) const;
+    // The ids of the windows whose name matches, waiting up to `wait` for one.
+    std::vector<std::string> windows(const std::string& name, std::chrono::milliseconds wait) const;
+    // The ids of all windows named exactly `name`, found with xwininfo:
+    // xdotool's search misses SDL's message boxes, which have no class.
+    std::vector<std::string> allNamed(const std::string& name) const;
+
+private:
+    pid_t pid_ = 0;
+    std::string display_;
+};
+
+// Starts a program in `folder` with extra environment settings; returns its
+// process id.
+pid_t spawnIn(const std::string& folder, const std::string& program, const std::vector<std::string>& env);
+// Waits up to `wait` for a child to end; its exit status, or -1 if it did not.
+int waitExit(pid_t pid, std::chrono::milliseconds wait);
+
+}  // namespace realtest
