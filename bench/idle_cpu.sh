@@ -1,6 +1,7 @@
 #!/bin/bash
-# CPU use of the real game waiting at its first prompt (the name prompt).
-# usage: bench/idle_cpu.sh [BUILD_DIR] [AUDIO_DRIVER] [SECONDS]
+# CPU use of the real game waiting at a prompt: the name prompt, or the club
+# prompt at the first tee with the crowd and the ambient sounds running.
+# usage: bench/idle_cpu.sh [BUILD_DIR] [AUDIO_DRIVER] [SECONDS] [name|tee]
 #   AUDIO_DRIVER: dummy (default) or pulseaudio (a private null sink)
 # Target: under 2 % of one core.
 set -u
@@ -8,6 +9,7 @@ HERE=$(cd "$(dirname "$0")" && pwd)
 BUILD=$(cd "${1:-$HERE/../build-real}" && pwd)
 DRIVER=${2:-dummy}
 SECONDS_MEASURED=${3:-10}
+PLACE=${4:-name}
 . "$HERE/rig.sh"
 
 rig_xvfb || exit 1
@@ -16,9 +18,16 @@ cd "$BUILD/game" || exit 1
 SDL_AUDIODRIVER=$DRIVER ./greenlark >"$RIG/game.log" 2>&1 &
 GAME=$!
 rig_track $GAME
-rig_window >/dev/null || { echo "the game's window never came"; exit 1; }
+WIN=$(rig_window) || { echo "the game's window never came"; exit 1; }
 # The opening jingle and the prompt end well within this.
 sleep 6
+if [ "$PLACE" = tee ]; then
+  # A name, yes, and the hole's description: then the club prompt waits.
+  xdotool key --window "$WIN" a l Return
+  sleep 3
+  xdotool key --window "$WIN" y
+  sleep 25
+fi
 
 ticks() { awk '{print $14 + $15}' "$1"; }
 declare -A before
@@ -27,7 +36,7 @@ c0=$(ticks /proc/$GAME/stat); t0=$(date +%s.%N)
 sleep "$SECONDS_MEASURED"
 c1=$(ticks /proc/$GAME/stat); t1=$(date +%s.%N)
 hz=$(getconf CLK_TCK)
-echo "greenlark waiting at the name prompt, audio driver $DRIVER, ${SECONDS_MEASURED} s"
+echo "greenlark waiting at the $PLACE prompt, audio driver $DRIVER, ${SECONDS_MEASURED} s"
 for t in /proc/$GAME/task/*; do
   [ -n "${before[$t]:-}" ] || continue
   awk -v n="$(cat $t/comm)" -v a="${before[$t]}" -v b="$(ticks $t/stat)" -v hz=$hz -v s="$t0" -v e="$t1" \
