@@ -47,6 +47,17 @@ int Result::count(const std::string& what) const {
     return n;
 }
 
+std::vector<int> Result::sequence(const std::vector<std::string>& whats, int from) const {
+    std::vector<int> at;
+    int next = from;
+    for (const auto& w : whats) {
+        int i = next < 0 ? -1 : find(w, next);
+        at.push_back(i);
+        next = i < 0 ? -1 : i + 1;
+    }
+    return at;
+}
+
 std::string Result::dump() const {
     std::string out = "exit " + std::to_string(code) + "\n" + err;
     for (const auto& l : lines) out += l + "\n";
@@ -82,13 +93,13 @@ Result runBinary(const std::string& script, const std::vector<std::string>& opti
     return r;
 }
 
-Result runInProcess(const std::string& script, const std::function<void()>& program, const std::string& docs,
-                    const std::string& game) {
-    Result r;
+namespace {
+
+void runOn(std::istream& in, bool live, const std::function<void()>& program, Result& r, const std::string& docs,
+           const std::string& game) {
     captured = &r.lines;
     sim::setSink(capture);
-    std::istringstream in(script);
-    sim::Runner runner(in, false, 900);
+    sim::Runner runner(in, live, 900);
     std::string error;
     if (!runner.preload(error)) {
         r.code = 2;
@@ -113,7 +124,20 @@ Result runInProcess(const std::string& script, const std::function<void()>& prog
     }
     sim::setSink(nullptr);
     captured = nullptr;
+}
+
+}  // namespace
+
+Result runInProcess(const std::string& script, const std::function<void()>& program, const std::string& docs,
+                    const std::string& game) {
+    Result r;
+    std::istringstream in(script);
+    runOn(in, false, program, r, docs, game);
     return r;
+}
+
+void runInProcessLive(std::istream& in, const std::function<void()>& program, Result& r, const std::string& docs) {
+    runOn(in, true, program, r, docs, GREENLARK_GAME_DIR);
 }
 
 }  // namespace simtest

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <istream>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,9 @@ struct Result {
     int find(const std::string& what, int from = 0) const;
     bool has(const std::string& what) const { return find(what) >= 0; }
     int count(const std::string& what) const;
+    // The lines of whats in this order, each after the one before; -1 for
+    // the first that is missing and all behind it.
+    std::vector<int> sequence(const std::vector<std::string>& whats, int from = 0) const;
     std::string dump() const;
 };
 
@@ -27,6 +31,21 @@ Result runBinary(const std::string& script, const std::vector<std::string>& opti
 // docs folder given (empty: none).
 Result runInProcess(const std::string& script, const std::function<void()>& program,
                     const std::string& docs = "", const std::string& game = GREENLARK_GAME_DIR);
+
+// The same around a script read from in as it arrives, as greenlark-sim
+// reads "-": r.lines fill while the program runs, so whatever feeds in can
+// answer what it hears.
+void runInProcessLive(std::istream& in, const std::function<void()>& program, Result& r,
+                      const std::string& docs = "");
+
+// The program's name question answered, up to the first tee of the round:
+// the script steps that every round scenario begins with.
+inline const char* kToTheTee = R"(expect "Please enter your name"
+type Jo
+key Enter
+expect "correct for your name? yes"
+key Enter
+)";
 
 // A new empty temporary folder.
 std::string tempDir();

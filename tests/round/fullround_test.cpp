@@ -19,12 +19,10 @@
 #include "course/locs.h"
 #include "platform/platform.h"
 #include "platform/rnd.h"
-#include "platform/sim/runner.h"
-#include "platform/sim/sim_platform.h"
-#include "platform/sim/transcript.h"
 #include "round/driver.h"
 #include "round/fullround_caddie.h"
 #include "round/state.h"
+#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
@@ -54,55 +52,17 @@ private:
     std::string buf_;
 };
 
-std::vector<std::string>* sinkTo = nullptr;
-void capture(const std::string& line) { sinkTo->push_back(line); }
-
-struct Played {
-    int code = -1;
-    std::vector<std::string> lines;
-    int count(const std::string& what) const {
-        int n = 0;
-        for (const auto& l : lines) n += l.find(what) != std::string::npos;
-        return n;
-    }
-    std::string dump() const {
-        std::string out;
-        for (const auto& l : lines) out += l + "\n";
-        return out;
-    }
-};
-
 // The live runner around program in this process; after each line the
 // caddie gives, watch runs inside the program's wait.
-Played playInProcess(Caddie& c, const std::function<void()>& program, const std::function<void()>& watch) {
-    Played out;
-    sinkTo = &out.lines;
-    sim::setSink(capture);
+simtest::Result playInProcess(Caddie& c, const std::function<void()>& program, const std::function<void()>& watch) {
+    simtest::Result out;
     Feed feed([&]() -> std::optional<std::string> {
         auto line = c.next(out.lines);
         watch();
         return line;
     });
     std::istream in(&feed);
-    sim::Runner runner(in, true, 900);
-    sim::Options o;
-    o.game = o.cwd = GREENLARK_GAME_DIR;
-    o.docs = simtest::tempDir();
-    sim::SimPlatform p(o, runner);
-    platform::install(&p);
-    try {
-        try {
-            program();
-        } catch (const platform::ProgramEnd&) {
-        }
-        p.log("exit");
-        out.code = runner.finish();
-    } catch (const sim::RunnerStop& stop) {
-        out.code = stop.code;
-    }
-    platform::install(nullptr);
-    sim::setSink(nullptr);
-    sinkTo = nullptr;
+    simtest::runInProcessLive(in, program, out, simtest::tempDir());
     return out;
 }
 
@@ -113,8 +73,8 @@ bool isDone(const std::string& line, int n) {
 
 // greenlark-sim reading its script from a pipe: each line is written once
 // the one before it is done.
-Played playThroughSim(Caddie& c) {
-    Played out;
+simtest::Result playThroughSim(Caddie& c) {
+    simtest::Result out;
     int toSim[2], fromSim[2];
     if (pipe(toSim) != 0 || pipe(fromSim) != 0) return out;
     pid_t pid = fork();
@@ -178,15 +138,9 @@ TEST(FullRound, CourseOneToTheEndWithTheCardAndTheCountersAgreeing) {
     auto r = playInProcess(
         c,
         [] {
-            voice::vs = voice::KeyState{};
-            sound::bk = sound::Bank{};
-            platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
-            sound::CreateSounds();
+            roundtest::freshGame();
             sound::countamb();
             sound::bk.ab = sound::loadbuffer("golf0", 0);
-            course::fillLocs();
-            play::rs = play::RoundState{};
-            play::rs.pn = " Jo ";
             play::rs.c = 1;
             platform::reseed(platform::os().tick());
             play::playround();

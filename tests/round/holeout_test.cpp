@@ -11,6 +11,7 @@
 #include "platform/rnd.h"
 #include "round/holeout.h"
 #include "round/state.h"
+#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
 #include "voice/keys.h"
@@ -19,15 +20,7 @@ using namespace play;
 
 namespace {
 
-void freshGame() {
-    voice::vs = voice::KeyState{};
-    sound::bk = sound::Bank{};
-    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
-    sound::CreateSounds();
-    course::fillLocs();
-    rs = RoundState{};
-    rs.pn = " Jo ";
-}
+using roundtest::freshGame;
 
 TEST(HoleOutClassify, EveryRowOfTheTableOnEveryPar) {
     for (int p = 3; p <= 6; ++p) {

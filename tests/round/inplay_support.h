@@ -9,6 +9,7 @@
 #include "platform/platform.h"
 #include "round/session.h"
 #include "round/state.h"
+#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
@@ -17,14 +18,7 @@
 namespace inplay {
 
 // From the program's start to the club prompt of the first tee of course 1.
-inline const char* kToTheTee = R"(expect "Please enter your name"
-type Jo
-key Enter
-expect "correct for your name? yes"
-key Enter
-expect "Select Your Club"
-expect " 1"
-)";
+inline const std::string kToTheTee = std::string(simtest::kToTheTee) + "expect \"Select Your Club\"\nexpect \" 1\"\n";
 
 // A one-wood drive off the first tee, to the report and the prompt behind it.
 inline const char* kDrive = R"(key 1
@@ -41,17 +35,11 @@ inline const std::string kPrompt =
 // The state of a program that has started, with course c loaded and the
 // start-up sound in the ambient buffer as the entry leaves it.
 inline void freshRound(int c) {
-    voice::vs = voice::KeyState{};
     voice::fkeys = voice::FKeyRoutines{};
-    sound::bk = sound::Bank{};
     sound::am = sound::Ambient{};
-    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
-    sound::CreateSounds();
+    roundtest::freshGame();
     sound::countamb();
     platform::attempt([] { sound::bk.ab = sound::loadbuffer("golf0", 0); });
-    course::fillLocs();
-    play::rs = play::RoundState{};
-    play::rs.pn = " Jo ";
     play::rs.c = c;
     play::loadcourse();
 }

@@ -18,6 +18,7 @@
 #include "round/lies.h"
 #include "round/power.h"
 #include "round/state.h"
+#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
 #include "voice/keys.h"
@@ -29,14 +30,8 @@ namespace {
 
 // Course 1 loaded and hole h begun, as the driver leaves it at the tee.
 void teeOf(int h) {
-    voice::vs = voice::KeyState{};
-    sound::bk = sound::Bank{};
-    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
-    sound::CreateSounds();
+    roundtest::freshGame();
     sound::bk.ab = sound::loadbuffer("golf0", 0);   // as start-up leaves it
-    course::fillLocs();
-    rs = RoundState{};
-    rs.pn = " Jo ";
     rs.c = 1;
     newround();
     rs.hole = h;
@@ -103,16 +98,12 @@ end
     EXPECT_EQ(afterReplay, 3);
     // Splash, groan, the penalty sound, then the words, the report and the
     // prompt, in that order.
-    int splash = r.find("play golf5 ");
-    int aww = r.find("play golf9 ", splash);
-    int pen = r.find("play golf23 ", aww);
-    int text = r.find("say2 \" shot went  into A-pond,  penalty stroke accessed \"", pen);
-    int report = r.find(
-        "say2 \" shot went  0 yards. it's  165 yards from the green and is  0 yards  off line in the  Fairway. \"", text);
-    ASSERT_GE(splash, 0) << r.dump();
-    ASSERT_GT(aww, splash) << r.dump();
-    ASSERT_GT(pen, aww) << r.dump();
-    ASSERT_GT(text, pen) << r.dump();
+    auto at = r.sequence({"play golf5 ", "play golf9 ", "play golf23 ",
+                          "say2 \" shot went  into A-pond,  penalty stroke accessed \"",
+                          "say2 \" shot went  0 yards. it's  165 yards from the green and is  0 yards  off line in the "
+                          " Fairway. \""});
+    ASSERT_GE(at[3], 0) << r.dump();
+    int text = at[3], report = at[4];
     ASSERT_EQ(nextSaid(r, text), report) << r.dump();
     EXPECT_EQ(r.find(prompt, report), nextSaid(r, report));
     EXPECT_EQ(r.find("say2 \" 1\"", report), nextSaid(r, nextSaid(r, report)));
@@ -142,17 +133,12 @@ TEST(LiesScenario, SandShotDumpedStaysInTheTrapForOneStroke) {
     EXPECT_EQ(rs.lie, 5);
     EXPECT_EQ(rs.togo, 20);
     EXPECT_EQ(rs.yds, 0);
-    int sand = r.find("play golf2 ");
-    int crowd = r.find("play golf8 ", sand);
-    int dumped = r.find("say2 \" you dumped it, shot still in the trap \"", crowd);
-    int aww = r.find("play golf9 ", dumped);
-    int report = r.find(
-        "say2 \" shot went  0 yards. it's  20 yards from the green and is  3 yards  off line in  A-Sand Trap. \"", aww);
-    ASSERT_GE(sand, 0) << r.dump();
-    ASSERT_GT(crowd, sand) << r.dump();
-    ASSERT_GT(dumped, crowd) << r.dump();
-    ASSERT_GT(aww, dumped) << r.dump();
-    ASSERT_GT(report, aww) << r.dump();
+    auto at = r.sequence({"play golf2 ", "play golf8 ", "say2 \" you dumped it, shot still in the trap \"",
+                          "play golf9 ",
+                          "say2 \" shot went  0 yards. it's  20 yards from the green and is  3 yards  off line in "
+                          " A-Sand Trap. \""});
+    ASSERT_GE(at[4], 0) << r.dump();
+    int report = at[4];
     EXPECT_EQ(r.find(prompt), nextSaid(r, report));
     EXPECT_FALSE(r.has("play golf1 ")) << "no strike";
 }
@@ -238,18 +224,13 @@ end
     EXPECT_EQ(rs.togo, int(rs.remain));
     EXPECT_EQ(rs.lasttogo, 300);
     EXPECT_EQ(rs.lie, 1);
-    int space = r.find("key 32");
-    int swish = r.find("play golf3 ", space);
-    int scold = r.find("say2 \" Where Did You Learn To Play Golf? You Don't Hit A-Driver In The Fairway \"", swish);
-    int cut = r.find("stop golf10 ", scold);
-    int crowd = r.find("play golf10 ", cut);
-    int report = r.find("say2 \" shot went  " + std::to_string(rs.yds) + " yards. it's  " +
-                        std::to_string(rs.togo) + " yards from the green", crowd);
-    ASSERT_GT(swish, space) << r.dump();
-    ASSERT_GT(scold, swish) << r.dump();
-    ASSERT_GT(cut, scold) << r.dump();
-    ASSERT_GT(crowd, cut) << r.dump();
-    ASSERT_GT(report, crowd) << r.dump();
+    auto at = r.sequence({"key 32", "play golf3 ",
+                          "say2 \" Where Did You Learn To Play Golf? You Don't Hit A-Driver In The Fairway \"",
+                          "stop golf10 ", "play golf10 ",
+                          "say2 \" shot went  " + std::to_string(rs.yds) + " yards. it's  " + std::to_string(rs.togo) +
+                              " yards from the green"});
+    ASSERT_GE(at[5], 0) << r.dump();
+    int space = at[0], report = at[5];
     EXPECT_EQ(r.find(prompt, report), nextSaid(r, report));
     EXPECT_EQ(r.find("play golf1 ", space), -1) << "no strike";
     EXPECT_FALSE(r.has("play golf18 ")) << "no full-swing sound";

@@ -11,6 +11,7 @@
 #include "round/driver.h"
 #include "round/putting.h"
 #include "round/state.h"
+#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
 #include "voice/keys.h"
@@ -24,15 +25,7 @@ const std::string kPrompt =
 
 std::string onGreen(const std::string& n) { return "say2 \" You are on the green " + n + " from the pin. \""; }
 
-void freshGreen() {
-    voice::vs = voice::KeyState{};
-    sound::bk = sound::Bank{};
-    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
-    sound::CreateSounds();
-    course::fillLocs();
-    play::rs = play::RoundState{};
-    play::rs.pn = " Jo ";
-}
+void freshGreen() { roundtest::freshGame(); }
 
 // A shot that has just reached the green, feet from the pin, as the landing
 // leaves it: a first arrival, the stroke not yet counted.

@@ -16,12 +16,7 @@ using simtest::runBinary;
 
 namespace {
 
-const char* kToTheTee = R"(expect "Please enter your name"
-type Jo
-key Enter
-expect "correct for your name? yes"
-key Enter
-)";
+using simtest::kToTheTee;
 
 const char* kPrompt = "say2 \" Press any key when you are ready to putt, press the space bar to putt. \"";
 

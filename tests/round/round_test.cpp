@@ -10,6 +10,7 @@
 #include "round/driver.h"
 #include "round/holeout.h"
 #include "round/state.h"
+#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
 #include "voice/keys.h"
@@ -19,13 +20,7 @@ using simtest::runInProcess;
 namespace {
 
 void freshGame(int c) {
-    voice::vs = voice::KeyState{};
-    sound::bk = sound::Bank{};
-    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
-    sound::CreateSounds();
-    course::fillLocs();
-    play::rs = play::RoundState{};
-    play::rs.pn = " Jo ";
+    roundtest::freshGame();
     play::rs.c = c;
 }
 

@@ -12,12 +12,7 @@ using simtest::runBinary;
 
 namespace {
 
-const char* kToTheTee = R"(expect "Please enter your name"
-type Jo
-key Enter
-expect "correct for your name? yes"
-key Enter
-)";
+using simtest::kToTheTee;
 
 struct Report {
     int yds = -1, remain = -1, offl = -1;

@@ -1,0 +1,24 @@
+// The state of a program that has just started, for tests that run round
+// routines in this process: keys, sounds and place names made anew, the
+// round state cleared and the player named " Jo ".
+#pragma once
+
+#include "course/locs.h"
+#include "platform/platform.h"
+#include "round/state.h"
+#include "sound/bank.h"
+#include "voice/keys.h"
+
+namespace roundtest {
+
+inline void freshGame() {
+    voice::vs = voice::KeyState{};
+    sound::bk = sound::Bank{};
+    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
+    sound::CreateSounds();
+    course::fillLocs();
+    play::rs = play::RoundState{};
+    play::rs.pn = " Jo ";
+}
+
+}  // namespace roundtest
