@@ -11,15 +11,11 @@ HERE=$(cd "$(dirname "$0")" && pwd)
 BUILD=$(cd "${1:-$HERE/../build-real}" && pwd)
 SECONDS_MEASURED=${2:-10}
 . "$HERE/rig.sh"
-for tool in bench_record bench_cursor_live; do
-  [ -x "$BUILD/bench/$tool" ] || { echo "build $tool first (ninja -C $BUILD $tool)"; exit 1; }
-done
+rig_need bench_record bench_cursor_live
 
 rig_pulse
 rig_xvfb || exit 1
-"$BUILD/bench/bench_record" cap.monitor "$RIG/rec" 96 &
-RECORDER=$!
-rig_track $RECORDER
+rig_recorder
 # The recorder settles before the sound starts.
 sleep 3
 SDL_AUDIODRIVER=pulseaudio "$BUILD/bench/bench_cursor_live" "$RIG" "$SECONDS_MEASURED" 2>"$RIG/live.log"

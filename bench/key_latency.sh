@@ -12,15 +12,11 @@ BUILD=$(cd "${1:-$HERE/../build-real}" && pwd)
 PRESSES=${2:-40}
 INTERVAL=${3:-400}
 . "$HERE/rig.sh"
-for tool in bench_record bench_keys; do
-  [ -x "$BUILD/bench/$tool" ] || { echo "build $tool first (ninja -C $BUILD $tool)"; exit 1; }
-done
+rig_need bench_record bench_keys
 
 rig_pulse
 rig_xvfb || exit 1
-"$BUILD/bench/bench_record" cap.monitor "$RIG/rec" 96 &
-RECORDER=$!
-rig_track $RECORDER
+rig_recorder
 (cd "$BUILD/game" && exec env SDL_AUDIODRIVER=pulseaudio ./greenlark) >"$RIG/game.log" 2>&1 &
 GAME=$!
 rig_track $GAME

@@ -62,3 +62,18 @@ rig_window() {
   done
   return 1
 }
+
+# Stops unless BUILD has these benchmark programs.
+rig_need() {
+  for tool in "$@"; do
+    [ -x "$BUILD/bench/$tool" ] || { echo "build $tool first (ninja -C $BUILD $tool)"; exit 1; }
+  done
+}
+
+# The timestamping recorder of the null sink's monitor, in the background,
+# as RECORDER; it is given three seconds to settle.
+rig_recorder() {
+  "$BUILD/bench/bench_record" cap.monitor "$RIG/rec" 96 &
+  RECORDER=$!
+  rig_track $RECORDER
+}

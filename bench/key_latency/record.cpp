@@ -29,12 +29,12 @@ std::int64_t nowNs() {
 }
 
 pa_simple* openSource(const char* source, int readFrames) {
-    pa_sample_spec spec{PA_SAMPLE_S16LE, 48000, 2};
+    pa_sample_spec format{PA_SAMPLE_S16LE, 48000, 2};
     pa_buffer_attr attr{};
     attr.maxlength = attr.tlength = attr.prebuf = attr.minreq = std::uint32_t(-1);
     attr.fragsize = std::uint32_t(readFrames * 4);
     int err = 0;
-    pa_simple* s = pa_simple_new(nullptr, "greenlark-bench", PA_STREAM_RECORD, source, "record", &spec, nullptr,
+    pa_simple* s = pa_simple_new(nullptr, "greenlark-bench", PA_STREAM_RECORD, source, "record", &format, nullptr,
                                  &attr, &err);
     if (!s) std::fprintf(stderr, "bench_record: %s\n", pa_strerror(err));
     return s;
