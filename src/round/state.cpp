@@ -4,13 +4,4 @@ namespace play {
 
 RoundState rs;
 
-std::string spaced(long n) {
-    return n < 0 ? "-" + std::to_string(-n) : " " + std::to_string(n);
-}
-
-std::string cut(std::string text) {
-    while (!text.empty() && text.back() == ' ') text.pop_back();
-    return text;
-}
-
 }  // namespace play

@@ -6,6 +6,8 @@
 
 #include <string>
 
+#include "voice/text.h"
+
 namespace play {
 
 struct RoundState {
@@ -78,9 +80,8 @@ inline constexpr const char* clubPrompt =
     " Select Your Club.              1 to 9 For Irons, 1 to 4 For woods, or PW For Pitching Wedge.";
 inline constexpr const char* anyKeyPrompt = " press any key to continue ";
 
-// A number in its spaced form: the digits behind one blank.
-std::string spaced(long n);
-// The text with its trailing blanks removed.
-std::string cut(std::string text);
+// The number and text forms of what is spoken.
+using voice::cut;
+using voice::spaced;
 
 }  // namespace play

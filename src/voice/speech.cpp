@@ -2,6 +2,7 @@
 
 #include "platform/platform.h"
 #include "voice/keys.h"
+#include "voice/text.h"
 
 namespace voice {
 
@@ -11,7 +12,7 @@ void stopspeech() { platform::os().speak("", 2); }
 
 void saynoc(int noc) {
     if (noc < 10)
-        say2(" " + std::to_string(noc));
+        say2(spaced(noc));
     else
         say2(" pitching wedge ");
 }
