@@ -6,9 +6,11 @@ namespace sound {
 
 Bank bk;
 
+std::string wavepath(const std::string& stem) { return platform::os().programFolder() + "/" + stem + ".wav"; }
+
 int loadbuffer(const std::string& stem, int volume, bool yieldBeforeFrequency) {
     auto& os = platform::os();
-    int id = os.createBuffer(os.programFolder() + "/" + stem + ".wav");
+    int id = os.createBuffer(wavepath(stem));
     try {
         bk.fq = os.getFrequency(id);
         os.setCurrentPosition(id, 0);

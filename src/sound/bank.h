@@ -24,6 +24,8 @@ struct Bank {
 
 extern Bank bk;
 
+// The path of a wave file beside the program, from its stem.
+std::string wavepath(const std::string& stem);
 // Makes a buffer ready from a file stem beside the program: frequency read
 // into fq and written back, rewound, at the given volume. Throws on failure.
 int loadbuffer(const std::string& stem, int volume, bool yieldBeforeFrequency = false);

@@ -1,5 +1,7 @@
 #include "sound/checks.h"
 
+#include <optional>
+
 #include "platform/names.h"
 #include "platform/platform.h"
 #include "sound/bank.h"
@@ -10,28 +12,23 @@ namespace sound {
 
 namespace {
 
-// The file by its bare name in the working folder, if its name in lower case
-// is the one asked for; throws when there is none.
-long sizeInWorkingFolder(const std::string& name) {
+// The size of the file by its bare name in the working folder, if its name
+// in lower case is the one asked for.
+std::optional<long> sizeInWorkingFolder(const std::string& name) {
     for (const auto& e : platform::os().list(name))
         if (!e.isDir && platform::lower(e.name) == name) return long(e.size);
-    throw platform::Failure("missing " + name);
-}
-
-bool present(const WaveSize& w) {
-    for (const auto& e : platform::os().list(w.name))
-        if (!e.isDir && platform::lower(e.name) == w.name) return long(e.size) == w.bytes;
-    return false;
+    return std::nullopt;
 }
 
 void checkIndicator(const char* regular, const char* beeps, long bytes, const char* message) {
     platform::attempt([&] {
         bk.fq = indicatorRate;
         std::string name = bk.powav == 0 ? regular : beeps;
-        if (sizeInWorkingFolder(name) == bytes) {
+        auto size = sizeInWorkingFolder(name);
+        if (!size) throw platform::Failure("missing " + name);   // the check is abandoned
+        if (*size == bytes) {
             auto& os = platform::os();
-            std::string stem = name.substr(0, name.size() - 4);
-            replaceSb(os.createBuffer(os.programFolder() + "/" + stem + ".wav"));
+            replaceSb(os.createBuffer(wavepath(name.substr(0, name.size() - 4))));
             bk.fq = os.getFrequency(bk.sb);
             if (bk.fq == indicatorRate) return;
         }
@@ -47,7 +44,7 @@ void checkIndicator(const char* regular, const char* beeps, long bytes, const ch
 void checkwaves() {
     platform::attempt([] {
         for (const WaveSize& w : waveSizes) {
-            if (!present(w)) {
+            if (sizeInWorkingFolder(w.name) != w.bytes) {
                 bk.fq = 13;
                 return;
             }
