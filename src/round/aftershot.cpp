@@ -2,13 +2,13 @@
 // its replay, the report and the club prompt.
 #include <string>
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/flight.h"
 #include "round/holeout.h"
 #include "round/lies.h"
 #include "round/state.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -58,7 +58,7 @@ void aftershot() {
     rs.f1state = 2;
     if (rs.lie == 1 && rs.pw > 0.97) applause();
     shotreport();
-    if (voice::vs.g.empty()) {
+    if (input::ks.g.empty()) {
         voice::say2(std::string(clubPrompt) + " ");
         voice::saynoc(rs.noc);
     }

@@ -3,32 +3,32 @@
 
 #include <string>
 
+#include "input/keys.h"
 #include "round/inplay.h"
 #include "round/state.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
 
 namespace {
 
-using voice::vs;
+using input::ks;
 
 void movepointer(int by) {
     rs.noc += by;
     if (rs.noc == 0) rs.noc = 10;
     if (rs.noc == 11) rs.noc = 1;
-    voice::clk();
+    input::clk();
     voice::saynoc(rs.noc);
 }
 
 void sayanswer() {
     voice::say2(rs.wi == 1 ? " wood " : " iron ");
-    if (vs.g.empty()) voice::clk();
+    if (ks.g.empty()) input::clk();
 }
 
 void askwoodoriron() {
-    voice::clk();
+    input::clk();
     rs.wi = rs.club <= 4 ? 1 : 2;
     voice::say2(" select ");
     sayanswer();
@@ -36,7 +36,7 @@ void askwoodoriron() {
 
 bool rejected() {
     notchoice();
-    voice::clk();
+    input::clk();
     return false;
 }
 
@@ -45,26 +45,26 @@ bool rejected() {
 std::string woodoriron() {
     while (true) {
         keywait();
-        if (vs.g == "38" || vs.g == "40") {
+        if (ks.g == key::Up || ks.g == key::Down) {
             rs.wi = rs.wi == 1 ? 2 : 1;
-            voice::clk();
+            input::clk();
             sayanswer();
             continue;
         }
-        if (vs.g == "13") {
-            if (rs.wi == 1) return "87";
-            if (rs.wi == 2) return "73";
-            return vs.g;
+        if (ks.g == key::Enter) {
+            if (rs.wi == 1) return key::W;
+            if (rs.wi == 2) return key::I;
+            return ks.g;
         }
-        if (vs.g2 == "w") return "87";
-        if (vs.g2 == "i") return "73";
-        return vs.g;
+        if (ks.g2 == "w") return key::W;
+        if (ks.g2 == "i") return key::I;
+        return ks.g;
     }
 }
 
 bool wedgechosen(const std::string& code) {
     rs.noc = 1;
-    if (code != "87") return rejected();
+    if (code != key::W) return rejected();
     rs.wedge = 1;
     rs.club = 20;
     return true;
@@ -73,8 +73,8 @@ bool wedgechosen(const std::string& code) {
 bool secondwait() {
     std::string code = woodoriron();
     if (rs.pflag == 1) return wedgechosen(code);
-    if (code == "87") return rs.club <= 4 ? true : rejected();
-    if (code == "73") {
+    if (code == key::W) return rs.club <= 4 ? true : rejected();
+    if (code == key::I) {
         rs.club += 9.5;
         return true;
     }
@@ -87,22 +87,22 @@ bool firstwait() {
     rs.pflag = 0;
     while (true) {
         keywait();
-        if (vs.g == "38" || vs.g == "40") {
-            movepointer(vs.g == "38" ? -1 : 1);
+        if (ks.g == key::Up || ks.g == key::Down) {
+            movepointer(ks.g == key::Up ? -1 : 1);
             continue;
         }
-        if (vs.g == "13") {
-            voice::clk();
-            if (rs.noc == 10) return wedgechosen("87");
-            rs.keynum = rs.noc + 48;
-        } else if (vs.g2 == "p") {
+        if (ks.g == key::Enter) {
+            input::clk();
+            if (rs.noc == 10) return wedgechosen(key::W);
+            rs.keynum = rs.noc + key::code::Digit0;
+        } else if (ks.g2 == "p") {
             rs.noc = 1;
             rs.pflag = 1;
-            voice::clk();
+            input::clk();
             return secondwait();
         }
         rs.noc = 1;
-        rs.club = rs.keynum - 48;
+        rs.club = rs.keynum - key::code::Digit0;
         if (rs.club < 1 || rs.club > 9) {
             notchoice();
             return false;

@@ -1,6 +1,7 @@
 // The order of a round: its start, the hole loop and the shots of a hole.
 #include "round/driver.h"
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/club.h"
 #include "round/holeout.h"
@@ -11,7 +12,6 @@
 #include "round/session.h"
 #include "round/state.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 namespace play {
 
@@ -34,7 +34,7 @@ void playround() {
         rs.resumeskip = 1;
         step(loadcourse);
     }
-    voice::clk();
+    input::clk();
     rs.dirty = rs.washed == 1 ? 0 : 1;
     rs.hookset = 3;
     rs.stk = 0;
@@ -54,7 +54,7 @@ void newround() {
     rs.BAD = rs.DOUBLEBOGEY = rs.Bogey = rs.PARS = 0;
     rs.BIRDIE = rs.EAGLE = rs.DOUEAG = rs.HOLEINONE = 0;
     step(pickcourse);
-    voice::clk();
+    input::clk();
 }
 
 void holeloop() {

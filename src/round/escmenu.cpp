@@ -1,11 +1,11 @@
 // The two Escape menus of a round: at the beginning of a hole the game can
 // be saved; after the first swing it can only be left.
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/inplay.h"
 #include "round/session.h"
 #include "round/state.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 #include "voice/patterns.h"
 
 namespace play {
@@ -19,8 +19,8 @@ const char* const kExit = " exit program ";
 // Back to the prompt that the menu interrupted, which takes the key as F1.
 void backtogame() {
     sound::playcrowdwav();
-    voice::clk();
-    voice::vs.g = "112";
+    input::clk();
+    input::ks.g = key::F1;
 }
 
 void silence() {
@@ -38,7 +38,7 @@ void deletesave() {
 }  // namespace
 
 void escmenu() {
-    voice::clk();
+    input::clk();
     silence();
     voice::Menu m;
     m.header = " select. ";
@@ -62,7 +62,7 @@ void escmenu() {
 
 void escmenu2() {
     silence();
-    voice::clk();
+    input::clk();
     voice::Menu m;
     m.header = " note, you can only save the game at the beginning of a hole. select ";
     m.entries = {kReturn, kQuit, kExit};

@@ -3,12 +3,12 @@
 
 #include <cmath>
 
+#include "input/keys.h"
 #include "platform/rnd.h"
 #include "round/driver.h"
 #include "round/lies.h"
 #include "round/state.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -52,7 +52,7 @@ void strikeball() {
 
 void carry() {
     rs.yds = swingcarry(fullcarry(rs.dirty, rs.club, platform::U()), rs.pw);
-    voice::dy(rs.yds / 250.0);
+    input::dy(rs.yds / 250.0);
     landball();
 }
 

@@ -2,10 +2,10 @@
 // length, the clapping, the distance to the pin and the putt prompt.
 #include <string>
 
+#include "input/keys.h"
 #include "round/holeout.h"
 #include "round/putting.h"
 #include "round/state.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -17,12 +17,12 @@ std::string ongreen(int feet) {
 
 void sayongreen() {
     rs.greensaid = 1;
-    voice::clk();
+    input::clk();
     voice::say2(ongreen(nearfeet(rs.remain)));
 }
 
 void sayputtprompt() {
-    voice::clk();
+    input::clk();
     voice::say2(puttPrompt);
 }
 
@@ -32,10 +32,10 @@ void greenloop() {
         rs.nopause = 0;
         rs.wedge = 0;
     }
-    voice::dy(rs.pw);   // 0 after a putt
+    input::dy(rs.pw);   // 0 after a putt
     if (rs.wedge == 1) {
         rs.wedge = 0;
-        voice::dy(1);
+        input::dy(1);
     }
     if (rs.greensaid != 1) voice::say2(" shot went " + spaced(rs.yds) + " yards");
     rs.f1state = 3;

@@ -1,12 +1,12 @@
 // The start of a hole and its spoken description.
 #include "course/course.h"
 #include "course/locs.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/driver.h"
 #include "round/state.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -29,7 +29,7 @@ void starthole() {
     rs.firstapp = 1;
     rs.f1state = 1;
     describehole();
-    voice::dy(0.5);
+    input::dy(0.5);
     if (rs.resumeskip == 1)
         rs.resumeskip = 0;
     else
@@ -48,7 +48,7 @@ std::string holetext() {
 void describehole() {
     rs.savestate = 1;
     std::string t = holetext();
-    voice::clk();
+    input::clk();
     voice::say2(t);
 }
 

@@ -1,6 +1,7 @@
 // The end of a hole and the end of the round.
 #include <cstdlib>
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "platform/rnd.h"
 #include "round/driver.h"
@@ -9,7 +10,6 @@
 #include "round/session.h"
 #include "round/state.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -20,11 +20,11 @@ void endhole() {
     platform::attempt(loggit);
     rs.hole += 1;
     platform::reseed(platform::os().tick());
-    voice::dy(0.5);
+    input::dy(0.5);
     rs.f1state = 4;
     rs.virgin = 1;
     platform::attempt(resaydidonhole);
-    voice::clk();
+    input::clk();
     voice::say2(anyKeyPrompt);
     keywait();
     rs.stk = 0;
@@ -35,9 +35,9 @@ namespace {
 // The end's own wait: no ambience, and no key is swallowed.
 int endkey() {
     voice::say2(anyKeyPrompt);
-    voice::clk();
-    while (voice::vs.g.empty()) platform::os().yield();
-    return std::atoi(voice::vs.g.c_str());
+    input::clk();
+    while (input::ks.g.empty()) platform::os().yield();
+    return std::atoi(input::ks.g.c_str());
 }
 
 }  // namespace
@@ -47,9 +47,9 @@ void endround() {
     sound::StopAllSounds();
     sound::stopWater();
     platform::attempt(sayendscore);
-    voice::clk();
+    input::clk();
     if (rs.c != rs.nocs) platform::attempt(CheckRecords);
-    for (int code = endkey(); code > 111 && code < 120; code = endkey()) {
+    for (int code = endkey(); code >= key::code::F1 && code <= key::code::F8; code = endkey()) {
         platform::attempt(sayendscore);   // F1 to F8 repeat the report
         platform::attempt(SayRecOrNot);
     }

@@ -14,7 +14,7 @@ struct LeaveRound {};
 
 // Idles until a key comes that the caller has to answer; leaves g, g2 and
 // keynum. The commands of play are done inside it. A return from an Escape
-// menu hands back g = "112" with g2 empty and keynum 27.
+// menu hands back g = key::F1 with g2 empty and keynum 27.
 void keywait();
 // " That is not A-choice. ", the error sound and " please try again. ";
 // silent for the F1 that a menu leaves behind.
@@ -22,10 +22,10 @@ void notchoice();
 
 // The Escape menu at the beginning of a hole, with saving, and the one in
 // play. The other entries leave the round or the program; "return to game"
-// comes back with g = "112" and g2 empty.
+// comes back with g = key::F1 and g2 empty.
 void escmenu();
 void escmenu2();
-// F7: the log hole by hole; Escape leaves it with g = "113", so that the
+// F7: the log hole by hole; Escape leaves it with g = key::F2, so that the
 // key wait goes on with the report of the stage.
 void logreview();
 

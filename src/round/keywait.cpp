@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/driver.h"
 #include "round/flight.h"
@@ -13,13 +14,14 @@
 #include "round/state.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
+#include "voice/state.h"
 
 namespace play {
 
 namespace {
 
+using input::ks;
 using voice::vs;
 
 // Where the wait goes on after a key.
@@ -30,23 +32,18 @@ enum class Next {
     handle,   // take the key now in g without idling
 };
 
-// Keys that only stop the voice.
-bool hushonly(const std::string& g) {
-    return g == "119" || g == "17" || g == "18" || g == "19" || g == "145";
-}
-
 void idle() {
     auto& os = platform::os();
     do {
         os.yield();
         sound::ambpass();
-    } while (vs.g.empty());
+    } while (ks.g.empty());
 }
 
 // A report or prompt said again: the key is spent first, so that a routine
 // abandoned before its own clk cannot leave it behind to run once more.
 void redo(void (*routine)()) {
-    vs.g.clear();
+    ks.g.clear();
     platform::attempt(routine);
 }
 
@@ -60,19 +57,19 @@ void crowdtoggle() {
     } else {
         sound::playcrowdwav();
     }
-    voice::clk();
+    input::clk();
 }
 
 void keytoggle() {
     vs.keytog = 1 - vs.keytog;
     voice::say(vs.keytog == 0 ? " key toggle on " : " key toggle off ");
-    voice::clk();
+    input::clk();
 }
 
 void repeatprompt() {
     int stage = rs.f1state;
     if (stage == 3) return redo(sayputtprompt);
-    voice::clk();
+    input::clk();
     if (stage == 4) return voice::say2(anyKeyPrompt);
     voice::say2(std::string(clubPrompt) + " ");
     voice::saynoc(rs.noc);
@@ -84,7 +81,7 @@ void repeatreport() {
 }
 
 void saybag() {
-    voice::clk();
+    input::clk();
     voice::say2(rs.pn + bagText);
 }
 
@@ -92,19 +89,19 @@ bool hasstage() { return rs.f1state >= 1 && rs.f1state <= 4; }
 
 // The row of the table that fits the key in g.
 Next row(const std::string& g) {
-    if (g == "27") {
+    if (g == key::Escape) {
         if (rs.savestate != 2) escmenu(); else escmenu2();
         return Next::caller;
     }
-    if (g == "118") {
+    if (g == key::F7) {
         logreview();
         return Next::handle;
     }
-    if (vs.g2 == "c") crowdtoggle();
-    else if (vs.g2 == "k") keytoggle();
-    else if (g == "112" && hasstage()) repeatprompt();
-    else if (g == "113" && hasstage()) repeatreport();
-    else if (g == "114") saybag();
+    if (ks.g2 == "c") crowdtoggle();
+    else if (ks.g2 == "k") keytoggle();
+    else if (g == key::F1 && hasstage()) repeatprompt();
+    else if (g == key::F2 && hasstage()) repeatreport();
+    else if (g == key::F3) saybag();
     else {
         voice::saykey2();
         return Next::caller;
@@ -116,16 +113,16 @@ Next row(const std::string& g) {
 // are dropped, and the others set keynum and find their row.
 Next command() {
     voice::stopspeech();
-    const std::string g = vs.g;
-    if (g == "38" || g == "40") return Next::caller;
-    if (hushonly(g)) {
-        voice::clk();
+    const std::string g = ks.g;
+    if (g == key::Up || g == key::Down) return Next::caller;
+    if (input::hushonly(g)) {
+        input::clk();
         return Next::idle;
     }
     rs.keynum = std::atof(g.c_str());
     Next next = Next::fresh;
     // A command abandoned by a failure must not leave its key to run again.
-    if (!platform::attempt([&] { next = row(g); })) voice::clk();
+    if (!platform::attempt([&] { next = row(g); })) input::clk();
     return next;
 }
 

@@ -4,11 +4,11 @@
 #include <cmath>
 #include <string>
 
+#include "input/keys.h"
 #include "platform/rnd.h"
 #include "round/flight.h"
 #include "round/state.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -25,7 +25,7 @@ void dumped() {
     rs.lie = 5;
     rs.yds = 0;
     aftershot();
-    voice::clk();
+    input::clk();
 }
 
 // A short shot in any direction, whatever the swing.
@@ -44,7 +44,7 @@ void woodintrap() {
     misused();
     voice::say2(std::string(" Where Did You Learn To Play Golf? You Don't Hit ") +
                 (rs.club == 1 ? " A-Driver " : " A-Wood ") + " In A-sand trap. ");
-    voice::dy(0.2);
+    input::dy(0.2);
     voice::say2(dumpedText);
     dumped();
 }

@@ -2,18 +2,18 @@
 #include <string>
 #include <vector>
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/inplay.h"
 #include "round/session.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
 
 namespace {
 
-using voice::vs;
+using input::ks;
 
 // The log's lines, read one at a time; a read past the end leaves the
 // line it was to fill as it was.
@@ -69,24 +69,24 @@ std::vector<std::string> logentries(const std::string& text) {
 }
 
 void logreview() {
-    voice::clk();
+    input::clk();
     std::vector<std::string> entries = logentries(logtext());
     sound::StopAllSounds();
     int n = int(entries.size()), pointer = 1;
     voice::say2(entries[0]);
     while (true) {
-        voice::getkey();
-        if (vs.g == "27") break;
-        if (vs.g == "38" || vs.g == "40") {
-            pointer = wrap(pointer + (vs.g == "38" ? -1 : 1), n);
+        input::getkey();
+        if (ks.g == key::Escape) break;
+        if (ks.g == key::Up || ks.g == key::Down) {
+            pointer = wrap(pointer + (ks.g == key::Up ? -1 : 1), n);
             voice::say2(entries[size_t(pointer - 1)]);
             continue;
         }
         voice::say(" Use the up and down arrow keys to review the holes, press the escape key to return to the game. ");
     }
-    voice::clk();
+    input::clk();
     sound::playcrowdwav();
-    vs.g = "113";
+    ks.g = key::F2;
 }
 
 }  // namespace play

@@ -1,13 +1,13 @@
 // The countdowns and the power readings of a swing and a putt.
 #include "round/power.h"
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/session.h"
 #include "round/state.h"
 #include "sound/bank.h"
 #include "sound/checks.h"
 #include "sound/wave_table.h"
-#include "voice/keys.h"
 
 namespace play {
 
@@ -24,14 +24,14 @@ namespace {
 void ticks() {
     for (int i = 0; i < 3; ++i) {
         sound::play3("golf16");
-        voice::dy(0.3);
+        input::dy(0.3);
     }
 }
 
 void countdownhead() {
     sound::StopAllSounds();
     sound::playcrowdwav();
-    voice::dy(0.6);
+    input::dy(0.6);
     ticks();
 }
 
@@ -43,8 +43,8 @@ bool indicatorpass(const std::string& stem) {
     os.play(sound::bk.pb, 0);
     do {
         os.yield();
-    } while (voice::vs.g.empty() && os.getStatus(sound::bk.pb) == 1);
-    if (!voice::vs.g.empty()) return true;
+    } while (input::ks.g.empty() && os.getStatus(sound::bk.pb) == 1);
+    if (!input::ks.g.empty()) return true;
     os.stop(sound::bk.pb);
     sound::releaseField(sound::bk.pb);
     return false;
@@ -55,7 +55,7 @@ bool indicatorpass(const std::string& stem) {
 void reading(const std::string& stem, long length) {
     sound::StopAllSounds();
     sound::playcrowdwav();
-    voice::clk();
+    input::clk();
     while (!indicatorpass(stem)) {
     }
     auto& os = platform::os();
@@ -63,27 +63,27 @@ void reading(const std::string& stem, long length) {
     os.stop(sound::bk.pb);
     sound::releaseField(sound::bk.pb);
     rs.hitpow = hitpowFrom(position, length);
-    voice::vs.wckp = 0;
+    input::ks.wckp = 0;
 }
 
 }  // namespace
 
 void GetHitPow() {
-    voice::vs.wckp = 1;
+    input::ks.wckp = 1;
     sound::CheckHitWav();
     if (sound::bk.fq == 13) return;   // the reading is skipped
     reading(sound::bk.powav == 0 ? "golf7" : "golf28", sound::hitIndicatorBytes);
 }
 
 void GetPuttPow() {
-    voice::vs.wckp = 1;
+    input::ks.wckp = 1;
     sound::checkputtwav();
     reading(sound::bk.powav == 0 ? "golf6" : "golf27", sound::puttIndicatorBytes);
 }
 
 void swing() {
     rs.savestate = 2;
-    voice::clk();
+    input::clk();
     countdownhead();
     sound::CheckHitWav();
     if (sound::bk.fq == 13) leavegame();

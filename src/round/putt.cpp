@@ -1,11 +1,11 @@
 // The putt: the key that starts it, the countdown and the reading, the
 // sounds of the stroke, and where it leaves the ball.
+#include "input/keys.h"
 #include "round/inplay.h"
 #include "round/power.h"
 #include "round/putting.h"
 #include "round/state.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 namespace play {
 
@@ -17,7 +17,7 @@ bool forcedin() {
 
 void putt() {
     keywait();   // any key it gives back starts the putt, the arrows too
-    voice::vs.g.clear();
+    input::ks.g.clear();
     puttswing();
     rs.puttpow = rs.hitpow / 5.0;
     sound::playputtwav();

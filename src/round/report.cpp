@@ -2,10 +2,10 @@
 #include <cmath>
 
 #include "course/course.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/flight.h"
 #include "round/state.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -20,7 +20,7 @@ std::string shotreporttext() {
 }
 
 void shotreport() {
-    voice::clk();
+    input::clk();
     voice::say2(shotreporttext());
 }
 

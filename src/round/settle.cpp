@@ -2,10 +2,10 @@
 // feet from the pin, the stroke counted, and a missed putt told.
 #include <cmath>
 
+#include "input/keys.h"
 #include "round/putting.h"
 #include "round/state.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -35,7 +35,7 @@ std::string puttwent(double feet) {
 void settle() {
     rs.remain = atrest(rs.remain);
     rs.stk += 1;
-    voice::dy(rs.puttpow / 4);
+    input::dy(rs.puttpow / 4);
     if (rs.remain == 0 || rs.onputt != 1) return;
     // Out after a putt: it missed.
     sound::playaww();

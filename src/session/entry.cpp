@@ -5,6 +5,7 @@
 
 #include "course/course.h"
 #include "course/locs.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "platform/rnd.h"
 #include "round/driver.h"
@@ -13,9 +14,9 @@
 #include "sound/bank.h"
 #include "sound/checks.h"
 #include "voice/getter.h"
-#include "voice/keys.h"
 #include "voice/patterns.h"
 #include "voice/speech.h"
+#include "voice/state.h"
 
 namespace session {
 
@@ -23,10 +24,11 @@ namespace {
 
 void wireEvents() {
     auto& os = platform::os();
-    os.setKeyHandler([](int code) { voice::Form_KeyDown(code); });
+    input::fkeys.stopAbAndClaps = sound::stopAbAndClaps;
+    os.setKeyHandler([](int code) { input::Form_KeyDown(code); });
     os.setCloseHandler([] {
-        voice::clk();
-        voice::vs.g = "112";
+        input::clk();
+        input::ks.g = key::F1;
     });
 }
 
@@ -71,9 +73,9 @@ void gamemain() {
         platform::os().play(sound::bk.ab, 0);
     });
     while (true) {
-        voice::clk();
+        input::clk();
         voice::getter(" Please enter your name. ");
-        if (voice::vs.g == "27") break;
+        if (input::ks.g == key::Escape) break;
         std::string name = " " + voice::vs.r + " ";
         voice::Question q;
         q.text = " Is " + name + " correct for your name?";

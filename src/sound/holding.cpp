@@ -1,7 +1,7 @@
 // Sounds that hold the game until they have ended.
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 namespace sound {
 
@@ -12,14 +12,14 @@ namespace {
 void hold(const std::string& a, int volume, bool keyEnds) {
     platform::attempt([&] {
         auto& os = platform::os();
-        voice::clk();
+        input::clk();
         replaceSb(loadbuffer(a, volume));
         int mine = bk.sb;
         os.play(mine, 0);
         while (true) {
             os.yield();
             if (bk.sb != mine || os.getStatus(mine) != 1) break;
-            if (keyEnds && !voice::vs.g.empty()) break;
+            if (keyEnds && !input::ks.g.empty()) break;
         }
         os.stop(bk.sb);
         releaseField(bk.sb);
@@ -57,7 +57,7 @@ void playputtwav() {
         os.yield();
         os.play(bk.b_golf17, 0);
         os.yield();
-        voice::dy(0.2);
+        input::dy(0.2);
         os.setCurrentPosition(bk.b_golf17, 0);
     });
 }

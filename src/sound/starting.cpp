@@ -1,7 +1,7 @@
 // Sounds that only start and run under whatever comes next.
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 namespace sound {
 
@@ -25,7 +25,7 @@ void playclap3() { startOnce(bk.b_golf13); }
 
 void playcrowdwav() {
     if (bk.cowtog == 1) return;
-    voice::clk();
+    input::clk();
     platform::attempt([] {
         auto& os = platform::os();
         if (os.getStatus(bk.b_golf10) != 1) os.play(bk.b_golf10, 1);

@@ -1,15 +1,19 @@
 #include "voice/getter.h"
 
-#include "voice/keys.h"
+#include "input/keys.h"
 #include "voice/speech.h"
+#include "voice/state.h"
 
 namespace voice {
+
+using input::ks;
 
 namespace {
 
 bool typable(const std::string& g) {
     int code = std::stoi(g);
-    return code == 32 || (code >= 65 && code <= 90) || (code >= 48 && code <= 57);
+    using namespace key::code;
+    return code == Space || (code >= A && code <= Z) || (code >= Digit0 && code <= Digit9);
 }
 
 // The last UTF-8 character of s.
@@ -25,40 +29,40 @@ void getter(const std::string& prompt) {
     bool restart = true, shift = false;
     while (true) {
         if (restart) {
-            clk();
+            input::clk();
             say2(prompt);
             vs.r.clear();
             restart = false;
         }
-        getkey();
-        if (vs.g == "112") {
+        input::getkey();
+        if (ks.g == key::F1) {
             restart = true;
             continue;
         }
-        if (vs.g == "27") {
+        if (ks.g == key::Escape) {
             vs.r.clear();
             return;
         }
-        if (vs.g == "16") {
+        if (ks.g == key::Shift) {
             shift = true;
             continue;
         }
         if (shift) {
             shift = false;
-            vs.g2 = upperkey(vs.g2);
+            ks.g2 = input::upperkey(ks.g2);
         }
-        if (vs.g == "8") {
+        if (ks.g == key::Backspace) {
             if (vs.r.empty()) continue;
             size_t at = lastCharStart(vs.r);
-            vs.g2 = vs.r.substr(at);
+            ks.g2 = vs.r.substr(at);
             saykey();
             vs.r.erase(at);
             continue;
         }
-        if (vs.g == "13") return;
+        if (ks.g == key::Enter) return;
         saykey();
-        if (typable(vs.g))
-            vs.r += vs.g2;
+        if (typable(ks.g))
+            vs.r += ks.g2;
         else
             say(" Please use letters, numbers or spaces only. ");
     }

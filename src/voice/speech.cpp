@@ -1,10 +1,13 @@
 #include "voice/speech.h"
 
+#include "input/keys.h"
 #include "platform/platform.h"
-#include "voice/keys.h"
+#include "voice/state.h"
 #include "voice/text.h"
 
 namespace voice {
+
+using input::ks;
 
 void say(const std::string& text) { platform::os().speak(text, 0); }
 void say2(const std::string& text) { platform::os().speak(text, 1); }
@@ -23,7 +26,7 @@ void namekey(int flag) {
     auto& os = platform::os();
     os.setRate(vs.vr + 5);
     stopspeech();
-    if (vs.g != "112") os.speak(vs.g2, flag);
+    if (ks.g != key::F1) os.speak(ks.g2, flag);
     os.setRate(vs.vr);
 }
 }  // namespace
@@ -33,11 +36,11 @@ void saykey2() { namekey(0); }
 
 void speechwait(double first) {
     auto& os = platform::os();
-    dy(first);
+    input::dy(first);
     do {
         os.yield();
-    } while (os.runningState() == 2 && vs.g.empty());
-    if (!vs.g.empty()) stopspeech();
+    } while (os.runningState() == 2 && ks.g.empty());
+    if (!ks.g.empty()) stopspeech();
 }
 
 }  // namespace voice

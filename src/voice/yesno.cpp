@@ -1,8 +1,10 @@
-#include "voice/keys.h"
+#include "input/keys.h"
 #include "voice/patterns.h"
 #include "voice/speech.h"
 
 namespace voice {
+
+using input::ks;
 
 namespace {
 const char* word(bool yes) { return yes ? " yes " : " no "; }
@@ -16,14 +18,14 @@ bool yesno(const Question& q) {
             say2(q.text + word(answer));
             ask = false;
         }
-        getkey();
-        if (vs.g == "13") return answer;
-        if (vs.g == "38" || vs.g == "40") {
+        input::getkey();
+        if (ks.g == key::Enter) return answer;
+        if (ks.g == key::Up || ks.g == key::Down) {
             answer = !answer;
             say2(word(answer));
             continue;
         }
-        if (vs.g == "112") {
+        if (ks.g == key::F1) {
             answer = q.f1Answer;
             ask = true;
             continue;
@@ -32,8 +34,8 @@ bool yesno(const Question& q) {
             saykey2();
         else
             saykey();
-        if (vs.g2 == "y") return true;
-        if (vs.g2 == "n") return false;
+        if (ks.g2 == "y") return true;
+        if (ks.g2 == "n") return false;
         if (q.beforeOther) q.beforeOther();
         if (q.otherAnswer >= 0) answer = q.otherAnswer == 1;
         ask = true;

@@ -4,12 +4,13 @@
 
 #include <fstream>
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "platform/sim/script.h"
 #include "platform/sim/transcript.h"
 #include "sim_harness.h"
-#include "voice/keys.h"
 #include "voice/speech.h"
+#include "voice/state.h"
 
 using simtest::runBinary;
 using simtest::runInProcess;
@@ -118,7 +119,7 @@ TEST(SimSpeech, TimingFollowsLengthAndRate) {
         os.setRate(10);
         voice::say2("0123456789");
         during = os.runningState();
-        voice::dy(0.3);
+        input::dy(0.3);
         after = os.runningState();
         t2 = os.tick();
     });
@@ -149,14 +150,15 @@ TEST(SimSound, CursorStatusAndTheAtStep) {
     int statusDuring = 0, statusAfter = -1;
     auto r = runInProcess("at tone 50 Space\nend\n", [&] {
         auto& os = platform::os();
-        voice::vs = voice::KeyState{};
-        os.setKeyHandler([](int c) { voice::Form_KeyDown(c); });
+        input::ks = input::KeyState{};
+        voice::vs = voice::VoiceState{};
+        os.setKeyHandler([](int c) { input::Form_KeyDown(c); });
         int id = os.createBuffer(game + "/tone.wav");
         os.play(id, 0);
-        while (voice::vs.g.empty()) os.yield();
+        while (input::ks.g.empty()) os.yield();
         cursor = os.getCurrentPosition(id).play;
         statusDuring = os.getStatus(id);
-        voice::dy(1);
+        input::dy(1);
         statusAfter = os.getStatus(id);
         EXPECT_THROW(os.getStatus(id + 100), platform::Failure);
     }, "", game);

@@ -2,12 +2,13 @@
 // leaves, run in this process on the simulated platform.
 #include <gtest/gtest.h>
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/club.h"
 #include "round/state.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
+#include "voice/state.h"
 
 namespace {
 
@@ -54,9 +55,10 @@ TEST(ClubChoice, EveryKeyPathLeavesItsClubValue) {
         double club = -1;
         int wedge = -1, noc = -1;
         auto r = simtest::runInProcess(script + "end\n", [&] {
-            voice::vs = voice::KeyState{};
+            input::ks = input::KeyState{};
+            voice::vs = voice::VoiceState{};
             sound::bk = sound::Bank{};
-            platform::os().setKeyHandler([](int k) { voice::Form_KeyDown(k); });
+            platform::os().setKeyHandler([](int k) { input::Form_KeyDown(k); });
             play::rs = play::RoundState{};
             play::rs.wi = c.wi;
             play::rs.f1state = 1;

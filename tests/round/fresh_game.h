@@ -4,17 +4,20 @@
 #pragma once
 
 #include "course/locs.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/state.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
+#include "voice/state.h"
 
 namespace roundtest {
 
 inline void freshGame() {
-    voice::vs = voice::KeyState{};
+    input::ks = input::KeyState{};
+    voice::vs = voice::VoiceState{};
     sound::bk = sound::Bank{};
-    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
+    input::fkeys.stopAbAndClaps = sound::stopAbAndClaps;
+    platform::os().setKeyHandler([](int code) { input::Form_KeyDown(code); });
     sound::CreateSounds();
     course::fillLocs();
     play::rs = play::RoundState{};

@@ -17,16 +17,16 @@
 #include <vector>
 
 #include "course/locs.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "platform/rnd.h"
 #include "round/driver.h"
+#include "round/fresh_game.h"
 #include "round/fullround_caddie.h"
 #include "round/state.h"
-#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 using caddie::Caddie;
 

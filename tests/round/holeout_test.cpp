@@ -7,14 +7,14 @@
 #include <vector>
 
 #include "course/locs.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "platform/rnd.h"
+#include "round/fresh_game.h"
 #include "round/holeout.h"
 #include "round/state.h"
-#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 using namespace play;
 

@@ -215,7 +215,7 @@ simtest::Result waitAt(int stage, const std::string& script, Outcome& out, doubl
         play::rs.remain = remain;
         play::rs.stk = 2;
         play::keywait();
-        out = {voice::vs.g, voice::vs.g2, play::rs.keynum};
+        out = {input::ks.g, input::ks.g2, play::rs.keynum};
     });
 }
 
@@ -273,13 +273,13 @@ TEST(InPlayKeys, SettingsKeysEndWithThePromptOfTheStage) {
     Outcome out;
     auto r = runInProcess("expect \"next to the green\"\nkey F9\nexpect \"putt\"\nkey Space\n", [&] {
         inplay::freshRound(1);
-        voice::fkeys.adjrate = [] { voice::say(" rate routine "); };
+        input::fkeys.adjrate = [] { voice::say(" rate routine "); };
         play::starthole();
         play::rs.f1state = 3;
         play::rs.savestate = 2;
         play::keywait();
-        out = {voice::vs.g, voice::vs.g2, play::rs.keynum};
-        voice::fkeys = voice::FKeyRoutines{};
+        out = {input::ks.g, input::ks.g2, play::rs.keynum};
+        input::fkeys = input::FKeyRoutines{};
     });
     ASSERT_EQ(r.code, 0) << r.dump();
     int routine = r.find("say \" rate routine \"");
@@ -292,12 +292,12 @@ TEST(InPlayKeys, SettingsKeysEndWithThePromptOfTheStage) {
 TEST(InPlayKeys, NotAChoiceStopsAtAKeyAndIsSilentForF1) {
     auto r = runInProcess("key Z\nexpect \"A-choice\"\nkey Q\nend\n", [] {
         inplay::freshRound(1);
-        voice::vs.g = "112";
+        input::ks.g = "112";
         play::notchoice();
-        EXPECT_EQ(voice::vs.g, "") << "the F1 a menu leaves is spent";
-        voice::getkey();
+        EXPECT_EQ(input::ks.g, "") << "the F1 a menu leaves is spent";
+        input::getkey();
         play::notchoice();
-        EXPECT_EQ(voice::vs.g, "81");
+        EXPECT_EQ(input::ks.g, "81");
     });
     ASSERT_EQ(r.code, 0) << r.dump();
     EXPECT_EQ(r.count("say2"), 1) << r.dump();

@@ -151,8 +151,8 @@ simtest::Result escapeAt(int course, int savestate, const std::string& keys, Out
             } catch (const play::LeaveRound&) {
                 out.left = true;
             }
-            out.g = voice::vs.g;
-            out.g2 = voice::vs.g2;
+            out.g = input::ks.g;
+            out.g2 = input::ks.g2;
             out.keynum = play::rs.keynum;
             out.savedexit = play::rs.savedexit;
         },

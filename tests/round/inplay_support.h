@@ -6,14 +6,14 @@
 
 #include "course/course.h"
 #include "course/locs.h"
+#include "input/keys.h"
 #include "platform/platform.h"
+#include "round/fresh_game.h"
 #include "round/session.h"
 #include "round/state.h"
-#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 namespace inplay {
 
@@ -35,7 +35,7 @@ inline const std::string kPrompt =
 // The state of a program that has started, with course c loaded and the
 // start-up sound in the ambient buffer as the entry leaves it.
 inline void freshRound(int c) {
-    voice::fkeys = voice::FKeyRoutines{};
+    input::fkeys = input::FKeyRoutines{};
     sound::am = sound::Ambient{};
     roundtest::freshGame();
     sound::countamb();

@@ -10,18 +10,18 @@
 
 #include "course/course.h"
 #include "course/locs.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "platform/rnd.h"
 #include "round/club.h"
 #include "round/driver.h"
 #include "round/flight.h"
+#include "round/fresh_game.h"
 #include "round/lies.h"
 #include "round/power.h"
 #include "round/state.h"
-#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 using namespace play;
 using simtest::runInProcess;

@@ -7,14 +7,14 @@
 #include <string>
 
 #include "course/locs.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/driver.h"
+#include "round/fresh_game.h"
 #include "round/putting.h"
 #include "round/state.h"
-#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 using simtest::runInProcess;
 

@@ -6,14 +6,14 @@
 
 #include "course/course.h"
 #include "course/locs.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/driver.h"
+#include "round/fresh_game.h"
 #include "round/holeout.h"
 #include "round/state.h"
-#include "round/fresh_game.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 using simtest::runInProcess;
 

@@ -6,11 +6,11 @@
 #include <sstream>
 
 #include "course/course.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "sim_harness.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
-#include "voice/keys.h"
 
 using simtest::runInProcess;
 

@@ -4,12 +4,13 @@
 
 #include <filesystem>
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
 #include "sound/checks.h"
 #include "sound/wave_table.h"
-#include "voice/keys.h"
+#include "voice/state.h"
 
 using simtest::runBinary;
 using simtest::runInProcess;
@@ -17,10 +18,12 @@ using simtest::runInProcess;
 namespace {
 
 void fresh() {
-    voice::vs = voice::KeyState{};
-    voice::fkeys = voice::FKeyRoutines{};
+    input::ks = input::KeyState{};
+    voice::vs = voice::VoiceState{};
+    input::fkeys = input::FKeyRoutines{};
     sound::bk = sound::Bank{};
-    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
+    input::fkeys.stopAbAndClaps = sound::stopAbAndClaps;
+    platform::os().setKeyHandler([](int code) { input::Form_KeyDown(code); });
     sound::CreateSounds();
 }
 
@@ -30,7 +33,7 @@ TEST(BankScenario, AKeyDuringPlay2CutsTheSoundAndStays) {
     auto r = runInProcess("wait 0.5\nkey A\nend\n", [] {
         fresh();
         sound::play2("golf0");
-        g = voice::vs.g;
+        g = input::ks.g;
     });
     ASSERT_EQ(r.code, 0) << r.dump();
     EXPECT_EQ(g, "65");
@@ -44,11 +47,11 @@ TEST(BankScenario, PlayDropsAKeyFromBeforeAndKeepsOneFromDuring) {
     std::string before, during;
     auto r = runInProcess("key A\nwait 0.2\nkey B\nend\n", [&] {
         fresh();
-        voice::dy(0.15);   // A arrives here
+        input::dy(0.15);   // A arrives here
         sound::play("golf16");
-        before = voice::vs.g;
+        before = input::ks.g;
         sound::play("golf0");   // B arrives during it
-        during = voice::vs.g;
+        during = input::ks.g;
     });
     ASSERT_EQ(r.code, 0) << r.dump();
     EXPECT_EQ(before, "");
@@ -66,9 +69,9 @@ TEST(BankScenario, CowtogSilencesOnlyCrowdAndStartedSounds) {
     auto r = runInProcess("key A\nend\n", [&] {
         fresh();
         sound::bk.cowtog = 1;
-        voice::dy(0.2);
+        input::dy(0.2);
         sound::playcrowdwav();   // clears no keys while silenced
-        kept = voice::vs.g;
+        kept = input::ks.g;
         sound::playantwav();
         sound::playaww();
         sound::playclap1();
@@ -93,11 +96,11 @@ TEST(BankScenario, StopAllSoundsLeavesTheWaterAndClapsRestart) {
         os.play(sound::bk.wb1, 1);
         sound::playcrowdwav();
         sound::playclap1();
-        voice::dy(0.5);
+        input::dy(0.5);
         sound::playclap1();   // still running: cut back to its start
-        voice::dy(0.1);
+        input::dy(0.1);
         sound::StopAllSounds();
-        voice::dy(0.1);
+        input::dy(0.1);
     });
     ASSERT_EQ(r.code, 0) << r.dump();
     EXPECT_TRUE(r.has("stop golf10")) << r.dump();
@@ -113,7 +116,7 @@ TEST(BankScenario, ASettingsRoutineThatReplacesSbEndsTheWait) {
     std::uint32_t took = 0;
     auto r = runInProcess("wait 0.3\nkey F11\nend\n", [&] {
         fresh();
-        voice::fkeys.adjvol = [] { sound::replaceSb(sound::loadbuffer("golf2", 0)); };
+        input::fkeys.adjvol = [] { sound::replaceSb(sound::loadbuffer("golf2", 0)); };
         std::uint32_t t0 = platform::os().tick();
         sound::play("golf13");   // seven seconds
         took = platform::os().tick() - t0;

@@ -2,19 +2,21 @@
 // simulated platform.
 #include <gtest/gtest.h>
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "sim_harness.h"
-#include "voice/keys.h"
 #include "voice/patterns.h"
 #include "voice/speech.h"
+#include "voice/state.h"
 
 using simtest::runInProcess;
 
 namespace {
 
 void wire() {
-    voice::vs = voice::KeyState{};
-    platform::os().setKeyHandler([](int code) { voice::Form_KeyDown(code); });
+    input::ks = input::KeyState{};
+    voice::vs = voice::VoiceState{};
+    platform::os().setKeyHandler([](int code) { input::Form_KeyDown(code); });
 }
 
 voice::Menu threeEntries() {
@@ -87,7 +89,7 @@ TEST(Waits, DyLastsItsUnitsOf1025Milliseconds) {
     auto r = runInProcess("end\n", [&] {
         wire();
         before = platform::os().tick();
-        voice::dy(0.3);
+        input::dy(0.3);
         after = platform::os().tick();
     });
     ASSERT_EQ(r.code, 0) << r.dump();
@@ -99,10 +101,10 @@ TEST(Waits, KeysDuringDyStayAndClkDropsThem) {
     std::string during, afterClk;
     auto r = runInProcess("key A\nend\n", [&] {
         wire();
-        voice::dy(0.5);
-        during = voice::vs.g;
-        voice::clk();
-        afterClk = voice::vs.g;
+        input::dy(0.5);
+        during = input::ks.g;
+        input::clk();
+        afterClk = input::ks.g;
     });
     ASSERT_EQ(r.code, 0) << r.dump();
     EXPECT_EQ(during, "65");
@@ -126,10 +128,10 @@ TEST(KeyNaming, KeytogSilencesSaykeyAndF1NamesNothing) {
     auto r = runInProcess("key A\nkey F1\nend\n", [] {
         wire();
         voice::vs.keytog = 1;
-        voice::getkey();
+        input::getkey();
         voice::saykey();
         voice::vs.keytog = 0;
-        voice::getkey();
+        input::getkey();
         voice::saykey2();
     });
     ASSERT_EQ(r.code, 0) << r.dump();
@@ -138,53 +140,6 @@ TEST(KeyNaming, KeytogSilencesSaykeyAndF1NamesNothing) {
     // saykey speaks at the rate five above the voice's and puts it back.
     EXPECT_TRUE(r.has("rate 5"));
     EXPECT_TRUE(r.has("rate 0"));
-}
-
-TEST(KeyNaming, CharactersFollowTheKeyCode) {
-    EXPECT_EQ(voice::keychar(65), "a");
-    EXPECT_EQ(voice::keychar(112), "p");    // F1
-    EXPECT_EQ(voice::keychar(119), "w");    // F8
-    EXPECT_EQ(voice::keychar(99), "c");     // numeric pad 3
-    EXPECT_EQ(voice::keychar(105), "i");    // numeric pad 9
-    EXPECT_EQ(voice::keychar(107), "k");    // numeric pad plus
-    EXPECT_EQ(voice::keychar(110), "n");    // numeric pad point
-    EXPECT_EQ(voice::keychar(32), " ");
-    EXPECT_EQ(voice::keychar(192), "\u00e0");   // a grave, lower case of its code
-    EXPECT_EQ(voice::upperkey("a"), "A");
-    EXPECT_EQ(voice::upperkey("3"), "3");
-    EXPECT_EQ(voice::upperkey("\u00e0"), "\u00c0");
-}
-
-TEST(KeyEvent, PowerReadingOnlySetsTheKeyStrings) {
-    int ran = 0;
-    auto r = runInProcess("key F4 F10\nend\n", [&] {
-        wire();
-        voice::fkeys.speckeys = [&] { ++ran; };
-        voice::vs.wckp = 1;
-        while (voice::vs.g != "112") platform::os().yield();
-        voice::vs.wckp = 0;
-        voice::fkeys.speckeys = nullptr;
-    });
-    ASSERT_EQ(r.code, 0) << r.dump();
-    EXPECT_EQ(ran, 0);
-}
-
-TEST(KeyEvent, FKeyRoutinesRunNestedAndLeaveF1) {
-    int ran = 0;
-    std::string seen;
-    auto r = runInProcess("key F4\nend\n", [&] {
-        wire();
-        voice::fkeys.speckeys = [&] {
-            ++ran;
-            voice::vs.g = "65";
-        };
-        voice::getkey();
-        seen = voice::vs.g;
-        voice::fkeys.speckeys = nullptr;
-    });
-    ASSERT_EQ(r.code, 0) << r.dump();
-    EXPECT_EQ(ran, 1);
-    EXPECT_EQ(seen, "112");
 }
 
 }  // namespace

@@ -1,15 +1,7 @@
-#include "voice/keys.h"
+// The character a key code reads as: cp1252 in lower case, as UTF-8.
+#include "input/keys.h"
 
-#include <cmath>
-
-#include "platform/platform.h"
-#include "sound/bank.h"
-#include "voice/speech.h"
-
-namespace voice {
-
-KeyState vs;
-FKeyRoutines fkeys;
+namespace input {
 
 namespace {
 
@@ -62,11 +54,6 @@ int fromCp1252(const std::string& ch) {
     return -1;
 }
 
-void runFKey(const std::function<void()>& routine) {
-    if (routine) platform::attempt(routine);
-    vs.g = "112";
-}
-
 }  // namespace
 
 std::string keychar(int code) { return cp1252(lowerCp1252(code & 0xFF)); }
@@ -76,54 +63,4 @@ std::string upperkey(const std::string& ch) {
     return c < 0 ? ch : cp1252(upperCp1252(c));
 }
 
-void Form_KeyDown(int code) {
-    if (code == 121) code = 112;   // F10 is F1 everywhere
-    vs.g = std::to_string(code);
-    vs.g2 = keychar(code);
-    if (vs.wckp == 1) return;
-    if (code == 112 || code == 113) sound::stopAbAndClaps();
-    switch (code) {
-        case 115: runFKey(fkeys.speckeys); break;
-        case 116: runFKey(fkeys.readins); break;
-        case 117: runFKey(fkeys.ReadHints); break;
-        case 120: runFKey(fkeys.adjrate); break;
-        case 122: runFKey(fkeys.adjvol); break;
-        case 123: runFKey(fkeys.changevoice2); break;
-        default: break;
-    }
-}
-
-void clk() {
-    do {
-        vs.g.clear();
-        platform::os().yield();
-        vs.g2.clear();
-        platform::os().yield();
-    } while (!vs.g.empty());
-}
-
-namespace {
-bool noAnswer(const std::string& g) {
-    return g == "119" || g == "17" || g == "18" || g == "19" || g == "145";
-}
-}  // namespace
-
-void getkey() {
-    do {
-        clk();
-        while (vs.g.empty()) platform::os().yield();
-        stopspeech();
-    } while (noAnswer(vs.g));
-}
-
-void dy(double a) {
-    auto& os = platform::os();
-    double t = double(os.tick());
-    double until = t + a * 1025.0;
-    os.dueAt(std::uint32_t(std::floor(until)) + 1);
-    do {
-        os.yield();
-    } while (!(double(os.tick()) > until));
-}
-
-}  // namespace voice
+}  // namespace input

@@ -5,28 +5,29 @@
 #include <functional>
 #include <string>
 
-namespace voice {
+#include "input/keycodes.h"
+
+namespace input {
 
 struct KeyState {
     std::string g;    // code of the last key in decimal; empty: no key waiting
     std::string g2;   // the same key as one lower-case character
     int wckp = 0;     // 1 while a power reading runs: keys only set g and g2
-    int keytog = 0;   // 1 silences saykey and saykey2
-    int vr = 0;       // the voice's rate
-    std::string r;    // what getter typed
 };
 
-extern KeyState vs;
+extern KeyState ks;
 
-// The routines the F-keys run nested inside any wait. Each leaves g = "112"
-// behind, so the wait below repeats its prompt. Empty until they exist.
+// The routines the keys run nested inside any wait, set at start-up. The
+// F-key routines each leave g = key::F1 behind, so the wait below repeats
+// its prompt. Empty until they exist.
 struct FKeyRoutines {
-    std::function<void()> speckeys;      // F4
-    std::function<void()> readins;       // F5
-    std::function<void()> ReadHints;     // F6
-    std::function<void()> adjrate;       // F9
-    std::function<void()> adjvol;        // F11
-    std::function<void()> changevoice2;  // F12
+    std::function<void()> stopAbAndClaps;  // F1, F2: the ambient sound and the claps stop
+    std::function<void()> speckeys;        // F4
+    std::function<void()> readins;         // F5
+    std::function<void()> ReadHints;       // F6
+    std::function<void()> adjrate;         // F9
+    std::function<void()> adjvol;          // F11
+    std::function<void()> changevoice2;    // F12
 };
 
 extern FKeyRoutines fkeys;
@@ -39,9 +40,11 @@ std::string upperkey(const std::string& ch);
 void Form_KeyDown(int code);
 // Clears g and g2 and drains the keys in flight.
 void clk();
+// F8, Ctrl, Alt, Pause and Scroll Lock only stop the voice: they are no answer.
+bool hushonly(const std::string& g);
 // Waits for a key that counts; speech stopped.
 void getkey();
 // Waits a x 1025 milliseconds, yielding.
 void dy(double a);
 
-}  // namespace voice
+}  // namespace input

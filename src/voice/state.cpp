@@ -1,0 +1,7 @@
+#include "voice/state.h"
+
+namespace voice {
+
+VoiceState vs;
+
+}  // namespace voice

@@ -1,0 +1,17 @@
+// What the voice keeps between prompts: the key naming switch, the rate and
+// the line getter typed.
+#pragma once
+
+#include <string>
+
+namespace voice {
+
+struct VoiceState {
+    int keytog = 0;   // 1 silences saykey and saykey2
+    int vr = 0;       // the voice's rate
+    std::string r;    // what getter typed
+};
+
+extern VoiceState vs;
+
+}  // namespace voice
