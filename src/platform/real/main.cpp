@@ -3,9 +3,13 @@
 #include <exception>
 
 #include "platform/real/sdl_platform.h"
+#include "platform/real/system_info.h"
 #include "session/entry.h"
 
 int main() {
+    // The game starts in its data folder, wherever it was started from: the
+    // wave checks and the launcher look in the working folder.
+    platform::real::startInDataFolder();
     try {
         platform::real::SdlPlatform sdl;
         platform::install(&sdl);

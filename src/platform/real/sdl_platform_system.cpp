@@ -47,7 +47,7 @@ void SdlPlatform::appendFile(const std::string& path, const std::string& data) {
 
 std::string SdlPlatform::documentsFolder() { return documentsFolderOf(env("HOME"), env("XDG_CONFIG_HOME")); }
 
-std::string SdlPlatform::programFolder() { return executableFolder(); }
+std::string SdlPlatform::programFolder() { return dataFolderOf(executableFolder()); }
 
 void SdlPlatform::startProgram(const std::string& path) {
     launch(path);

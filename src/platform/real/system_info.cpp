@@ -3,6 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 
@@ -58,6 +59,20 @@ std::string executableFolder() {
     std::error_code ec;
     fs::path exe = fs::read_symlink("/proc/self/exe", ec);
     return ec ? "" : exe.parent_path().string();
+}
+
+std::string dataFolderOf(const std::string& exeFolder) {
+    if (exeFolder.empty()) return exeFolder;
+    fs::path installed = fs::path(exeFolder).parent_path() / "share" / "greenlark";
+    std::error_code ec;
+    if (!isFolder(installed.string())) return exeFolder;
+    fs::path canonical = fs::canonical(installed, ec);
+    return ec ? installed.string() : canonical.string();
+}
+
+void startInDataFolder() {
+    std::string data = dataFolderOf(executableFolder());
+    if (!data.empty() && chdir(data.c_str()) != 0) std::perror("greenlark: cannot enter the data folder");
 }
 
 // A double fork: the program runs on as an orphan and leaves no zombie here.

@@ -14,6 +14,12 @@ double secondsSinceMidnight(const std::tm& local);
 // `home`/Documents; empty when the folder found does not exist.
 std::string documentsFolderOf(const std::string& home, const std::string& configHome);
 std::string executableFolder();
+// Where the game's data lies for a program in `exeFolder`: an installed
+// program finds it in ../share/greenlark beside its bin folder; a program in
+// a build's game folder has it beside itself.
+std::string dataFolderOf(const std::string& exeFolder);
+// Makes the data folder the working folder; left as it is when that fails.
+void startInDataFolder();
 // Starts a program, or opens a document with the desktop's opener, without
 // waiting for it. Throws Failure when neither can be done.
 void launch(const std::string& path);

@@ -78,4 +78,19 @@ TEST(SystemInfo, ExecutableFolderIsWhereThisTestLives) {
     EXPECT_TRUE(fs::exists(fs::path(executableFolder()) / "greenlark_real_tests"));
 }
 
+// An installed program finds its data beside its bin folder; a program in a
+// build's game folder keeps its own folder.
+TEST(SystemInfo, DataFolderInstalledOrBesideTheProgram) {
+    char pattern[] = "/tmp/greenlark-prefix-XXXXXX";
+    fs::path prefix = mkdtemp(pattern);
+    fs::create_directories(prefix / "bin");
+    fs::create_directories(prefix / "game");
+    EXPECT_EQ(dataFolderOf((prefix / "game").string()), (prefix / "game").string());
+    EXPECT_EQ(dataFolderOf((prefix / "bin").string()), (prefix / "bin").string()) << "no share folder yet";
+    fs::create_directories(prefix / "share" / "greenlark");
+    EXPECT_EQ(dataFolderOf((prefix / "bin").string()), fs::canonical(prefix / "share" / "greenlark").string());
+    EXPECT_EQ(dataFolderOf(""), "");
+    fs::remove_all(prefix);
+}
+
 }  // namespace
