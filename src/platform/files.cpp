@@ -1,5 +1,10 @@
 #include "platform/files.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -71,11 +76,92 @@ std::string read(const std::string& cwd, const std::string& path) {
     return ss.str();
 }
 
+Faults& faults() {
+    static Faults f;
+    return f;
+}
+
+namespace {
+
+// Writes all of data to fd, as far as the faults allow.
+bool writeAll(int fd, const std::string& data) {
+    size_t done = 0;
+    while (done < data.size()) {
+        size_t want = data.size() - done;
+        long long& space = faults().spaceLeft;
+        if (space >= 0 && (long long)want > space) want = size_t(space);
+        if (want == 0) {
+            errno = ENOSPC;
+            return false;
+        }
+        ssize_t n = ::write(fd, data.data() + done, want);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) return false;
+        done += size_t(n);
+        if (space >= 0) space -= n;
+    }
+    return true;
+}
+
+void stage(const char* name) {
+    if (faults().atStage) faults().atStage(name);
+}
+
+// The folder's entry of a renamed file reaches the disk too.
+void syncFolder(const std::string& dir) {
+    int fd = ::open(dir.c_str(), O_RDONLY | O_DIRECTORY);
+    if (fd < 0) return;
+    ::fsync(fd);
+    ::close(fd);
+}
+
+void replace(const std::string& full, const std::string& path, const std::string& data) {
+    size_t slash = full.find_last_of('/');
+    std::string dir = slash == std::string::npos ? "." : full.substr(0, slash);
+    if (dir.empty()) dir = "/";
+    std::string leaf = slash == std::string::npos ? full : full.substr(slash + 1);
+    // A leading point keeps a left-over new file out of every pattern the
+    // game lists.
+    std::string tmp = dir + "/." + leaf + ".new-XXXXXX";
+    int fd = ::mkstemp(tmp.data());
+    if (fd < 0) fail("write", path);
+    struct stat old{};
+    ::fchmod(fd, ::stat(full.c_str(), &old) == 0 ? (old.st_mode & 07777) : 0644);
+    bool ok = writeAll(fd, data);
+    if (ok) stage("written");
+    ok = ok && ::fsync(fd) == 0;
+    ok = ::close(fd) == 0 && ok;
+    if (ok) stage("synced");
+    ok = ok && ::rename(tmp.c_str(), full.c_str()) == 0;
+    if (!ok) {
+        ::unlink(tmp.c_str());
+        fail("write", path);
+    }
+    syncFolder(dir);
+}
+
+// An append that fails is cut back to where it began.
+void append(const std::string& full, const std::string& path, const std::string& data) {
+    int fd = ::open(full.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);
+    if (fd < 0) fail("append", path);
+    struct stat before{};
+    bool ok = ::fstat(fd, &before) == 0;
+    if (ok && !(writeAll(fd, data) && ::fsync(fd) == 0)) {
+        (void)::ftruncate(fd, before.st_size);
+        ok = false;
+    }
+    ok = ::close(fd) == 0 && ok;
+    if (!ok) fail("append", path);
+}
+
+}  // namespace
+
 void write(const std::string& cwd, const std::string& path, const std::string& data, bool append) {
-    std::ofstream out(resolve(cwd, path), std::ios::binary | (append ? std::ios::app : std::ios::trunc));
-    if (!out) fail("write", path);
-    out << data;
-    if (!out) fail("write", path);
+    std::string full = resolve(cwd, path);
+    if (append)
+        files::append(full, path, data);
+    else
+        replace(full, path, data);
 }
 
 }  // namespace platform::files
