@@ -35,6 +35,16 @@ std::string makeTempDocs() {
     return made ? std::string(made) : std::string();
 }
 
+std::string absolute(const std::string& folder) {
+    if (folder.empty()) return folder;
+    std::error_code ec;
+    auto full = std::filesystem::absolute(folder, ec);
+    if (ec) return folder;
+    full = full.lexically_normal();
+    if (!full.has_filename() && full != full.root_path()) full = full.parent_path();
+    return full.string();
+}
+
 struct Args {
     sim::Options opt;
     std::string script;
@@ -63,6 +73,11 @@ bool parseArgs(int argc, char** argv, Args& a) {
         else return false;
     }
     if (!a.cwdGiven) a.opt.cwd = a.opt.game;
+    // The game joins its folders with relative file names and reads them in
+    // the working folder: a relative folder would be joined twice.
+    a.opt.game = absolute(a.opt.game);
+    a.opt.cwd = absolute(a.opt.cwd);
+    if (a.docsGiven) a.opt.docs = absolute(a.opt.docs);
     return !a.script.empty() && a.opt.voices >= 0 && a.opt.timeout > 0;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/sim/runner.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "platform/sim/sim_platform.h"
@@ -10,11 +11,25 @@ namespace sim {
 Runner::Runner(std::istream& in, bool live, double timeoutSeconds)
     : in_(in), live_(live), timeout_(timeoutSeconds) {}
 
+// A line of the script. A wait longer than a step may wait could never be
+// met: such a script cannot be read.
+std::optional<Command> Runner::read(const std::string& line, std::string& error) {
+    auto c = parseLine(line, ++lineNo_, error);
+    if (c && c->op == Op::Wait && c->seconds > timeout_) {
+        char why[160];
+        std::snprintf(why, sizeof why, "line %d: a wait of %g seconds is longer than the timeout of %g", lineNo_,
+                      c->seconds, timeout_);
+        error = why;
+    }
+    if (!error.empty()) return std::nullopt;
+    return c;
+}
+
 bool Runner::preload(std::string& error) {
     if (live_) return true;
     std::string line;
     while (std::getline(in_, line)) {
-        auto c = parseLine(line, ++lineNo_, error);
+        auto c = read(line, error);
         if (!error.empty()) return false;
         if (c) queue_.push_back(*c);
     }
@@ -30,7 +45,7 @@ bool Runner::fetch() {
     std::string line;
     while (std::getline(in_, line)) {
         std::string error;
-        auto c = parseLine(line, ++lineNo_, error);
+        auto c = read(line, error);
         if (!error.empty()) {
             std::fprintf(stderr, "greenlark-sim: %s\n", error.c_str());
             throw RunnerStop{2};
@@ -47,20 +62,42 @@ void Runner::begin() {
     started_ = lastKeyAt_ = p_->now();
     keyIndex_ = 0;
     prevFrom_ = curFrom_;
-    curFrom_ = p_->events().size();
+    curFrom_ = firstKept_ + events_.size();
+    seenInStep_.clear();
+    forgetBefore(std::max(prevFrom_, matchFrom_));
+}
+
+void Runner::forgetBefore(size_t index) {
+    while (firstKept_ < index && !events_.empty()) {
+        events_.pop_front();
+        ++firstKept_;
+    }
+}
+
+// What an expect can still match. A waiting expect looks at each event once:
+// one it passed over can never count again, since the step after it counts
+// only what comes after its own match. During any other step the next step
+// will take the first event that fits, so a repeat of an event of the same
+// step is never needed.
+void Runner::note(const Event& e) {
+    bool expecting = cur_ && (cur_->op == Op::Expect || cur_->op == Op::ExpectSound);
+    if (!expecting && !seenInStep_.insert(e).second) return;
+    events_.push_back(e);
 }
 
 bool Runner::findEvent(const Command& c) {
-    const auto& ev = p_->events();
-    size_t from = prevFrom_ > matchFrom_ ? prevFrom_ : matchFrom_;
-    for (size_t i = from; i < ev.size(); ++i) {
-        if (ev[i].sound != (c.op == Op::ExpectSound)) continue;
-        bool hit = c.op == Op::ExpectSound ? ev[i].text == c.text : ev[i].text.find(c.text) != std::string::npos;
+    size_t end = firstKept_ + events_.size();
+    for (size_t i = std::max({prevFrom_, matchFrom_, firstKept_}); i < end; ++i) {
+        const Event& e = events_[i - firstKept_];
+        if (e.sound != (c.op == Op::ExpectSound)) continue;
+        bool hit = c.op == Op::ExpectSound ? e.text == c.text : e.text.find(c.text) != std::string::npos;
         if (hit) {
             matchFrom_ = i + 1;
+            forgetBefore(matchFrom_);
             return true;
         }
     }
+    forgetBefore(end);
     return false;
 }
 
@@ -111,8 +148,9 @@ void Runner::step() {
         int line = cur_->line;
         size_t before = keyIndex_;
         if (!met(*cur_)) {
+            // A step may wait that long after its start or its last key.
             if (cur_ && cur_->line == line && keyIndex_ == before && cur_->op != Op::Wait &&
-                double(p_->now() - started_) > timeout_ * 1000.0) {
+                double(p_->now() - lastKeyAt_) > timeout_ * 1000.0) {
                 std::fprintf(stderr, "greenlark-sim: line %d: step not met within %g virtual seconds\n",
                              line, timeout_);
                 throw RunnerStop{1};

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <istream>
+#include <set>
 #include <optional>
 #include <string>
 #include <vector>
@@ -13,6 +15,13 @@
 namespace sim {
 
 class SimPlatform;
+
+// One thing the program did that a script step can wait for.
+struct Event {
+    bool sound = false;   // a buffer started playing; else a text was spoken
+    std::string text;     // the text, or the stem
+    bool operator<(const Event& o) const { return sound != o.sound ? sound < o.sound : text < o.text; }
+};
 
 // Thrown out of a yield to stop the program: the script is done, or a step
 // failed (code 1) or a line could not be read (code 2).
@@ -31,9 +40,15 @@ public:
     void step();
     // The program has ended: settles the remaining steps. Returns the exit code.
     int finish();
+    // The program spoke a text or started a sound.
+    void note(const Event& e);
+    // How many events are kept for the steps to come.
+    size_t keptEvents() const { return events_.size(); }
 
 private:
     bool fetch();
+    std::optional<Command> read(const std::string& line, std::string& error);
+    void forgetBefore(size_t index);
     bool met(Command& c);
     bool metKey(Command& c);
     bool findEvent(const Command& c);
@@ -49,7 +64,12 @@ private:
     size_t keyIndex_ = 0;
     std::uint64_t started_ = 0;     // virtual ms when the step began
     std::uint64_t lastKeyAt_ = 0;
-    size_t curFrom_ = 0;            // events index at the start of the step
+    // Events are numbered from the start of the run; events_ holds those
+    // from number firstKept_ on, the only ones a step can still match.
+    std::deque<Event> events_;
+    size_t firstKept_ = 0;
+    std::set<Event> seenInStep_;    // what the current step has kept
+    size_t curFrom_ = 0;            // event number at the start of the step
     size_t prevFrom_ = 0;           // the same for the step before
     size_t matchFrom_ = 0;          // just past the last matched event
     bool scriptDone_ = false;

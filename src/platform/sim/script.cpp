@@ -52,7 +52,15 @@ std::string trim(const std::string& s) {
     return s.substr(a, b - a + 1);
 }
 
-// TEXT as written: bare, or in double quotes with \" and \\ escapes.
+int hexDigit(char c) {
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+}
+
+// TEXT as written: bare, or in double quotes with the escapes of the
+// transcript: \" \\ \r \n and \xHH.
 bool parseText(const std::string& rest, std::string& out) {
     std::string t = trim(rest);
     if (t.empty() || t[0] != '"') {
@@ -61,7 +69,11 @@ bool parseText(const std::string& rest, std::string& out) {
     }
     out.clear();
     for (size_t i = 1; i < t.size(); ++i) {
-        if (t[i] == '\\' && i + 1 < t.size()) {
+        if (t[i] == '\\' && i + 3 < t.size() && t[i + 1] == 'x' && hexDigit(t[i + 2]) >= 0 &&
+            hexDigit(t[i + 3]) >= 0) {
+            out += char(hexDigit(t[i + 2]) * 16 + hexDigit(t[i + 3]));
+            i += 3;
+        } else if (t[i] == '\\' && i + 1 < t.size()) {
             char n = t[++i];
             out += n == 'n' ? '\n' : n == 'r' ? '\r' : n;
         } else if (t[i] == '"') {

@@ -75,7 +75,7 @@ void SimPlatform::speak(const std::string& text, int flag) {
         return;
     }
     log((flag == 0 ? "say " : "say2 ") + quote(text));
-    events_.push_back({false, text});
+    runner_.note({false, text});
     double start = speechEnd_ > double(clock_) ? speechEnd_ : double(clock_);
     speechEnd_ = start + speechMs(text);
     if (flag == 0) {
@@ -152,7 +152,7 @@ void SimPlatform::play(int id, int loopFlag) {
     b.startPos = b.pos;
     log("play " + bufName(id) + " vol=" + std::to_string(b.volume) + " pan=" + std::to_string(b.pan) +
         (b.looping ? " loop" : " once"));
-    events_.push_back({true, b.stem});
+    runner_.note({true, b.stem});
 }
 
 int SimPlatform::getStatus(int id) {

@@ -22,19 +22,12 @@ struct Options {
     double timeout = 900;
 };
 
-// One thing the program did that a script step can wait for.
-struct Event {
-    bool sound = false;   // a buffer started playing; else a text was spoken
-    std::string text;     // the text, or the stem
-};
-
 class SimPlatform : public platform::Platform {
 public:
     SimPlatform(const Options& o, Runner& r);
 
     // ---- what the runner uses
     std::uint64_t now() const { return clock_; }
-    const std::vector<Event>& events() const { return events_; }
     void deliverKey(int code);
     void deliverClose();
     bool cursorPast(const std::string& stem, double percent);
@@ -98,7 +91,6 @@ private:
     std::uint64_t clock_ = 0;
     double speechEnd_ = 0;
     int rate_ = 0;
-    std::vector<Event> events_;
     SimDevice device_;
     std::function<void(int)> onKey_;
     std::function<void()> onClose_;

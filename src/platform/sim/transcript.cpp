@@ -12,7 +12,14 @@ std::string quote(const std::string& text) {
             case '\\': out += "\\\\"; break;
             case '\r': out += "\\r"; break;
             case '\n': out += "\\n"; break;
-            default: out += c;
+            default:
+                if (static_cast<unsigned char>(c) < 32) {
+                    char hex[5];
+                    std::snprintf(hex, sizeof hex, "\\x%02X", unsigned(static_cast<unsigned char>(c)));
+                    out += hex;
+                } else {
+                    out += c;
+                }
         }
     }
     return out + "\"";
