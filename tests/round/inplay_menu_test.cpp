@@ -75,7 +75,7 @@ expect " 1"
     EXPECT_EQ(spokenAfter(r, f1), kSelect);
     EXPECT_EQ(spokenAfter(r, r.find(kSelect, f1)), kReturn);
     int esc2 = r.find("key 27", esc + 1);
-    EXPECT_EQ(r.find(kSelect, esc2), nextSpoken(r, r.find("say2 \"\x1b\"", esc2) + 1)) << "named, then the header";
+    EXPECT_EQ(r.find(kSelect, esc2), nextSpoken(r, r.find("say2 \"\\x1B\"", esc2) + 1)) << "named, then the header";
     EXPECT_EQ(r.count(kSelect), 3);
     // Back in the game: the crowd, then the club prompt from its start.
     int enter = r.find("key 13", esc2);
