@@ -5,6 +5,17 @@
 
 namespace course {
 
+// The first seven place ids are also the lies of the ball.
+namespace lie {
+inline constexpr int fairway = 1;
+inline constexpr int rough = 2;
+inline constexpr int trees = 3;
+inline constexpr int adjacent = 4;   // the adjacent fairway
+inline constexpr int trap = 5;
+inline constexpr int pond = 6;
+inline constexpr int outofbounds = 7;
+}  // namespace lie
+
 // Fills cs.locs with the fixed texts of ids 1..162 and empties 0 and
 // 163..165. Start-up calls it once; the texts never change afterwards.
 void fillLocs();

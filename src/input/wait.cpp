@@ -25,7 +25,7 @@ void getkey() {
     do {
         clk();
         while (ks.g.empty()) os.yield();
-        os.speak("", 2);   // the voice stops at any key
+        os.speak("", platform::speakPurge);   // the voice stops at any key
     } while (hushonly(ks.g));
 }
 

@@ -32,6 +32,16 @@ struct CursorPair {
     long write = 0;
 };
 
+// The flags of speak.
+inline constexpr int speakWait = 0;    // returns when spoken
+inline constexpr int speakQueue = 1;   // queues and returns
+inline constexpr int speakPurge = 2;   // silences and empties the queue
+// runningState while anything is being spoken.
+inline constexpr int speechRunning = 2;
+// getStatus of a buffer.
+inline constexpr int statusPlaying = 1;   // a once-through play runs
+inline constexpr int statusLooping = 5;
+
 class Platform {
 public:
     virtual ~Platform() = default;
@@ -67,10 +77,9 @@ public:
     virtual void setVoice(int index) = 0;
     virtual void setRate(int rate) = 0;
     virtual void setVolume(int volume) = 0;
-    // flag 0: returns when spoken; 1: queues and returns; 2: silences and
-    // empties the queue.
+    // flag: speakWait, speakQueue or speakPurge.
     virtual void speak(const std::string& text, int flag) = 0;
-    // 2 while anything is being spoken.
+    // speechRunning while anything is being spoken.
     virtual int runningState() = 0;
 
     // ---- sound device
@@ -88,7 +97,8 @@ public:
     virtual void setVolumeDb(int id, int hundredthsDb) = 0;
     virtual void setPan(int id, int hundredthsDb) = 0;
     virtual void play(int id, int loopFlag) = 0;
-    // 1 exactly while a once-through play runs; 5 while looping; 0 stopped.
+    // statusPlaying exactly while a once-through play runs; statusLooping
+    // while looping; 0 stopped.
     virtual int getStatus(int id) = 0;
     virtual void stop(int id) = 0;
     virtual void restore(int id) = 0;

@@ -9,6 +9,7 @@
 #include "round/lies.h"
 #include "round/state.h"
 #include "sound/bank.h"
+#include "sound/wave_table.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -18,17 +19,17 @@ namespace {
 // The ball in the water or out of bounds: a penalty stroke, and the ball is
 // played again from where the shot started, as from the fairway.
 void penalty() {
-    if (rs.lie == 6) sound::playsplashwav();
-    if (rs.lie == 7) sound::play("golf14");
+    if (rs.lie == lie::pond) sound::playsplashwav();
+    if (rs.lie == lie::outofbounds) sound::play(sound::stem::trees);
     sound::playaww();
-    sound::play("golf23");
+    sound::play(sound::stem::penalty);
     rs.noclap = 1;
     std::string t = " shot went ";
     t += rs.inpond == 1 ? " into A-pond, " : " out of bounds, ";
     rs.inpond = 0;
     rs.stk += 1;
     voice::say2(t + " penalty stroke accessed ");
-    rs.lie = 1;
+    rs.lie = lie::fairway;
     rs.togo = rs.lasttogo;
     rs.yds = 0;
     rs.offl = 0;
@@ -49,14 +50,14 @@ void restartcrowd() {
 
 void aftershot() {
     rs.stk += 1;
-    while (rs.lie > 5) {
+    while (rs.lie > lie::trap) {
         penalty();
         rs.stk += 1;
     }
     if (rs.misusestop == 1) restartcrowd();
-    if (rs.lie == 3) sound::play("golf14");
+    if (rs.lie == lie::trees) sound::play(sound::stem::trees);
     rs.f1state = 2;
-    if (rs.lie == 1 && rs.pw > 0.97) applause();
+    if (rs.lie == lie::fairway && rs.pw > 0.97) applause();
     shotreport();
     if (input::ks.g.empty()) {
         voice::say2(std::string(clubPrompt) + " ");

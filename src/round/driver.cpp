@@ -23,8 +23,6 @@ void step(F f) {
     platform::attempt(f);
 }
 
-bool holed = false;   // the green step has dropped the ball
-
 }  // namespace
 
 void playround() {
@@ -70,7 +68,7 @@ void holeloop() {
 
 void playhole() {
     step(starthole);
-    rs.lie = 1;
+    rs.lie = lie::fairway;
     shotcycle();
     rs.onputt = 0;
     step(sinkball);
@@ -78,9 +76,9 @@ void playhole() {
 }
 
 void shotcycle() {
-    holed = false;
+    rs.holed = 0;
     step(clubprompt);
-    while (!holed) {
+    while (rs.holed == 0) {
         step(pickclub);
         step(swing);
         step(shotdispatch);
@@ -91,7 +89,7 @@ void greenstep() {
     while (true) {
         step(settle);
         if (rs.remain == 0) {
-            holed = true;
+            rs.holed = 1;
             return;
         }
         step(greenloop);

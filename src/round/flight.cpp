@@ -9,6 +9,7 @@
 #include "round/lies.h"
 #include "round/state.h"
 #include "sound/bank.h"
+#include "sound/wave_table.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -46,7 +47,7 @@ void strikeball() {
     sound::playgolfwav();
     sound::playcrowdwav();
     sound::playantwav();
-    if (rs.pw > 0.97) sound::play("golf18");
+    if (rs.pw > 0.97) sound::play(sound::stem::bigSwing);
     carry();
 }
 
@@ -62,7 +63,7 @@ namespace {
 // slice selector decides, and at 3 the ball keeps the lie it had.
 void lierule() {
     if (onfairway(rs.offl, rs.fairw, rs.dirty, rs.pw)) {
-        rs.lie = 1;
+        rs.lie = lie::fairway;
         return;
     }
     switch (rs.hookset + 1) {
@@ -98,7 +99,7 @@ void landball() {
             greenside();
             break;
         case Zone::green:
-            rs.lie = 1;
+            rs.lie = lie::fairway;
             rs.remain = std::floor(rs.remain * (platform::U() * 4));   // now feet
             greenstep();
             break;

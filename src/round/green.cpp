@@ -39,7 +39,7 @@ void greenloop() {
     }
     if (rs.greensaid != 1) voice::say2(" shot went " + spaced(rs.yds) + " yards");
     rs.f1state = 3;
-    if (rs.lie == 1 && rs.pw > 0.97) applause();
+    if (rs.lie == lie::fairway && rs.pw > 0.97) applause();
     if (rs.firstapp == 1 && rs.remain < 10) applause();
     sayongreen();
     rs.firstapp = 0;

@@ -18,11 +18,11 @@ int holeflag() {
 
 void greenside() {
     if (greensidepick(platform::U(), holeflag(), rs.trapped) == 2) {
-        rs.lie = 6;
+        rs.lie = lie::pond;
         rs.inpond = 1;
         rs.stk -= 1;   // the pond costs one stroke less than the penalty
     } else {
-        rs.lie = 5;
+        rs.lie = lie::trap;
         rs.nopause = 1;
         rs.trapped = 1;
     }

@@ -9,6 +9,7 @@
 #include "round/flight.h"
 #include "round/state.h"
 #include "sound/bank.h"
+#include "sound/wave_table.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -22,7 +23,7 @@ double clubcut(double club) { return club - 5; }
 // The ball stays where it lay, in the trap, and the stroke counts.
 void dumped() {
     sound::playaww();
-    rs.lie = 5;
+    rs.lie = lie::trap;
     rs.yds = 0;
     aftershot();
     input::clk();
@@ -74,8 +75,8 @@ void roughortrees() {
         strikeball();
         return;
     }
-    if (rs.lie == 3) {
-        sound::play("golf14");
+    if (rs.lie == lie::trees) {
+        sound::play(sound::stem::trees);
         voice::say2(" you hit a tree, try again ");
     } else {
         voice::say2(dumpedText);
@@ -103,18 +104,18 @@ int greensidepick(double u, int hf, int trapped) {
 }
 
 void shotdispatch() {
-    if (rs.club < 5 && rs.lie == 5) {
+    if (rs.club < 5 && rs.lie == lie::trap) {
         woodintrap();
     } else if (rs.club == 1 && rs.togo != rs.holelen) {
         driveroffthedeck();
     } else if (rs.club >= 8) {
-        if (rs.lie == 5) {
+        if (rs.lie == lie::trap) {
             sandshot();
         } else {
             rs.club = clubcut(rs.club);
             strikeball();
         }
-    } else if (rs.lie == 2 || rs.lie == 3) {
+    } else if (rs.lie == lie::rough || rs.lie == lie::trees) {
         roughortrees();
     } else {
         strikeball();

@@ -2,6 +2,7 @@
 #include "input/keys.h"
 #include "round/inplay.h"
 #include "sound/bank.h"
+#include "sound/wave_table.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -16,7 +17,7 @@ void notchoice() {
     voice::say2(" That is not A-choice. ");
     voice::speechwait(0.2);
     if (!ks.g.empty()) return;
-    sound::play2("golf19");
+    sound::play2(sound::stem::error);
     voice::say2(" please try again. ");
     voice::speechwait(0.2);
 }

@@ -23,7 +23,7 @@ namespace {
 // Three ticks at the power volume, each followed by a pause.
 void ticks() {
     for (int i = 0; i < 3; ++i) {
-        sound::play3("golf16");
+        sound::play3(sound::stem::tick);
         input::dy(0.3);
     }
 }
@@ -43,7 +43,7 @@ bool indicatorpass(const std::string& stem) {
     os.play(sound::bk.pb, 0);
     do {
         os.yield();
-    } while (input::ks.g.empty() && os.getStatus(sound::bk.pb) == 1);
+    } while (input::ks.g.empty() && os.getStatus(sound::bk.pb) == platform::statusPlaying);
     if (!input::ks.g.empty()) return true;
     os.stop(sound::bk.pb);
     sound::releaseField(sound::bk.pb);
@@ -71,14 +71,14 @@ void reading(const std::string& stem, long length) {
 void GetHitPow() {
     input::ks.wckp = 1;
     sound::CheckHitWav();
-    if (sound::bk.fq == 13) return;   // the reading is skipped
-    reading(sound::bk.powav == 0 ? "golf7" : "golf28", sound::hitIndicatorBytes);
+    if (sound::bk.fq == sound::failedCheck) return;   // the reading is skipped
+    reading(sound::bk.powav == 0 ? sound::stem::hitIndicator : sound::stem::hitIndicatorBeeps, sound::hitIndicatorBytes);
 }
 
 void GetPuttPow() {
     input::ks.wckp = 1;
     sound::checkputtwav();
-    reading(sound::bk.powav == 0 ? "golf6" : "golf27", sound::puttIndicatorBytes);
+    reading(sound::bk.powav == 0 ? sound::stem::puttIndicator : sound::stem::puttIndicatorBeeps, sound::puttIndicatorBytes);
 }
 
 void swing() {
@@ -86,7 +86,7 @@ void swing() {
     input::clk();
     countdownhead();
     sound::CheckHitWav();
-    if (sound::bk.fq == 13) leavegame();
+    if (sound::bk.fq == sound::failedCheck) leavegame();
     rs.noclap = 0;
     rs.misuse = 0;
     GetHitPow();
@@ -96,7 +96,7 @@ void swing() {
 void puttswing() {
     countdownhead();
     sound::checkputtwav();
-    if (sound::bk.fq == 13) leavegame();
+    if (sound::bk.fq == sound::failedCheck) leavegame();
     rs.pw = 0;
     rs.noclap = 0;
     GetPuttPow();

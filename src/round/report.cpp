@@ -15,7 +15,7 @@ std::string shotreporttext() {
     long off = long(std::floor(rs.offl));
     std::string t = " shot went " + spaced(rs.yds) + " yards. it's " + spaced(long(rs.remain)) +
                     " yards from the green and is " + spaced(off) + " yard" + (off == 1 ? " " : "s ") +
-                    " off line in " + (rs.lie == 5 ? "" : "the ") + course::cs.locs[rs.lie];
+                    " off line in " + (rs.lie == lie::trap ? "" : "the ") + course::cs.locs[rs.lie];
     return cut(t) + ". ";
 }
 

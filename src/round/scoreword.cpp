@@ -8,6 +8,7 @@
 #include "round/holeout.h"
 #include "round/state.h"
 #include "sound/bank.h"
+#include "sound/wave_table.h"
 #include "voice/speech.h"
 
 namespace play {
@@ -15,6 +16,7 @@ namespace play {
 namespace {
 
 using sound::play;
+namespace stem = sound::stem;
 using sound::playaww;
 
 struct Verdict {
@@ -27,21 +29,21 @@ struct Verdict {
 // Indexed by the class, 1 to 8.
 const Verdict verdicts[] = {
     {},
-    {&RoundState::DOUBLEBOGEY, [] { play("golf19"); playaww(); play("golf19"); },
+    {&RoundState::DOUBLEBOGEY, [] { play(stem::error); playaww(); play(stem::error); },
      " and is in the hole for A-double bo ghee ", " A-double bo ghee "},
-    {&RoundState::Bogey, [] { playaww(); play("golf19"); },
+    {&RoundState::Bogey, [] { playaww(); play(stem::error); },
      " and is in the hole for A-bo ghee, maybe the next hole will be better ",
      " A-bo ghee, maybe the next hole will be better "},
-    {&RoundState::PARS, [] { play("golf21"); }, " and is in the hole for par, keep up the good work ",
+    {&RoundState::PARS, [] { play(stem::par); }, " and is in the hole for par, keep up the good work ",
      " A-par, keep up the good work "},
-    {&RoundState::BAD, [] { playaww(); play("golf25"); },
+    {&RoundState::BAD, [] { playaww(); play(stem::worse); },
      " and is in the hole. maybe you had better get your money back ",
      " maybe you had better get your money back "},
-    {&RoundState::BIRDIE, [] { play("golf20"); }, " and is in the hole for A-birdy ", " A-birdy "},
-    {&RoundState::HOLEINONE, [] { play("golf24"); }, " and is in the hole for A-hole in one ", " A-hole in one "},
-    {&RoundState::EAGLE, [] { play("golf22"); }, " and is in the hole for an eagle, you should be on the tour ",
+    {&RoundState::BIRDIE, [] { play(stem::birdie); }, " and is in the hole for A-birdy ", " A-birdy "},
+    {&RoundState::HOLEINONE, [] { play(stem::holeInOne); }, " and is in the hole for A-hole in one ", " A-hole in one "},
+    {&RoundState::EAGLE, [] { play(stem::eagle); }, " and is in the hole for an eagle, you should be on the tour ",
      " an eagle, you should be on the tour "},
-    {&RoundState::DOUEAG, [] { play("golf22"); play("golf20"); },
+    {&RoundState::DOUEAG, [] { play(stem::eagle); play(stem::birdie); },
      " and is in the hole for A-double eagle, your name must be tiger ",
      " A-double eagle, your name must be tiger "},
 };

@@ -6,6 +6,7 @@
 
 #include <string>
 
+#include "course/locs.h"
 #include "voice/text.h"
 
 namespace play {
@@ -38,7 +39,7 @@ struct RoundState {
 
     // ---- the shot
     int stk = 0;       // strokes on this hole, penalties included
-    int lie = 1;       // index into the place names: 1 fairway, 5 trap, 6 pond
+    int lie = course::lie::fairway;   // index into the place names: a lie::
     int togo = 0;      // yards from the ball to the green
     int lasttogo = 0;  // togo before the last shot
     double remain = 0; // yards from the green; on the green feet from the pin
@@ -68,6 +69,7 @@ struct RoundState {
     int noclap = 0;
     int misuse = 0;
     int misusestop = 0;
+    int holed = 0;     // 1 once the green step has dropped the ball
 
     // ---- from the session: the player's name, a blank at each end
     std::string pn;
@@ -79,6 +81,8 @@ extern RoundState rs;
 inline constexpr const char* clubPrompt =
     " Select Your Club.              1 to 9 For Irons, 1 to 4 For woods, or PW For Pitching Wedge.";
 inline constexpr const char* anyKeyPrompt = " press any key to continue ";
+
+namespace lie = course::lie;
 
 // The number and text forms of what is spoken.
 using voice::cut;

@@ -13,6 +13,7 @@
 #include "sound/ambient.h"
 #include "sound/bank.h"
 #include "sound/checks.h"
+#include "sound/wave_table.h"
 #include "voice/getter.h"
 #include "voice/patterns.h"
 #include "voice/speech.h"
@@ -36,11 +37,11 @@ void wireEvents() {
 // indicators must run at their rate; otherwise the game cannot be played.
 bool wavesPass() {
     sound::checkwaves();
-    if (sound::bk.fq == 13) return false;
+    if (sound::bk.fq == sound::failedCheck) return false;
     sound::CheckHitWav();
-    if (sound::bk.fq == 13) return false;
+    if (sound::bk.fq == sound::failedCheck) return false;
     sound::checkputtwav();
-    return sound::bk.fq != 13;
+    return sound::bk.fq != sound::failedCheck;
 }
 
 // Until the main menu exists: one round on the first built-in course.
@@ -66,10 +67,10 @@ void gamemain() {
     }
     sound::CreateSounds();
     sound::countamb();
-    sound::bk.fq = 11025;
+    sound::bk.fq = sound::indicatorRate;
     // The opening jingle runs on in the ambient buffer while the game goes on.
     platform::attempt([] {
-        sound::bk.ab = sound::loadbuffer("golf0", sound::bk.wavol);
+        sound::bk.ab = sound::loadbuffer(sound::stem::jingle, sound::bk.wavol);
         platform::os().play(sound::bk.ab, 0);
     });
     while (true) {

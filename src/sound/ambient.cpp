@@ -8,6 +8,7 @@
 #include "platform/platform.h"
 #include "platform/rnd.h"
 #include "sound/bank.h"
+#include "sound/wave_table.h"
 
 namespace sound {
 
@@ -54,7 +55,7 @@ int Ambient::* const kSoundFlag[] = {
 bool abPlaying() {
     int status = 0;
     if (!platform::attempt([&] { status = platform::os().getStatus(bk.ab); })) return false;
-    return status == 1;
+    return status == platform::statusPlaying;
 }
 
 void choose() {
@@ -88,8 +89,8 @@ void placeAndPlay() {
 }  // namespace
 
 int* ambflag(int ambno) {
-    if (ambno < 14 || ambno > 37) return nullptr;
-    return &(am.*kSoundFlag[ambno - 14]);
+    if (ambno < firstPlaceAmb || ambno > 37) return nullptr;
+    return &(am.*kSoundFlag[ambno - firstPlaceAmb]);
 }
 
 void countamb() {
@@ -142,7 +143,7 @@ void ambpass() {
 
 void ambtick() {
     if (bk.cowtog == 1) return;
-    if (platform::os().runningState() == 2) {
+    if (platform::os().runningState() == platform::speechRunning) {
         am.nexttick = now() + am.ambwait;
         return;
     }

@@ -1,6 +1,7 @@
 #include "sound/bank.h"
 
 #include "platform/platform.h"
+#include "sound/wave_table.h"
 
 namespace sound {
 
@@ -42,13 +43,13 @@ void CreateSounds() {
         int* field;
         int below;
     };
-    const Slot slots[] = {{"golf1", &bk.b_golf1, 0},   {"golf2", &bk.b_golf2, 0},
-                          {"golf3", &bk.b_golf3, 0},   {"golf4", &bk.b_golf4, 0},
-                          {"golf5", &bk.b_golf5, 0},   {"golf8", &bk.b_golf8, 0},
-                          {"golf9", &bk.b_golf9, 0},   {"golf10", &bk.b_golf10, 100},
-                          {"golf11", &bk.b_golf11, 0}, {"golf12", &bk.b_golf12, 0},
-                          {"golf13", &bk.b_golf13, 0}, {"golf17", &bk.b_golf17, 0},
-                          {"golf31", &bk.wb1, 0},      {"golf31", &bk.wb2, 0}};
+    const Slot slots[] = {{stem::strike, &bk.b_golf1, 0},   {stem::sandStrike, &bk.b_golf2, 0},
+                          {stem::misuseSwing, &bk.b_golf3, 0},   {stem::sink, &bk.b_golf4, 0},
+                          {stem::splash, &bk.b_golf5, 0},   {stem::crowdOoh, &bk.b_golf8, 0},
+                          {stem::crowdAww, &bk.b_golf9, 0},   {stem::crowdLoop, &bk.b_golf10, 100},
+                          {stem::clap1, &bk.b_golf11, 0}, {stem::clap2, &bk.b_golf12, 0},
+                          {stem::clap3, &bk.b_golf13, 0}, {stem::puttStrike, &bk.b_golf17, 0},
+                          {stem::water, &bk.wb1, 0},      {stem::water, &bk.wb2, 0}};
     for (const Slot& s : slots)
         platform::attempt([&] { *s.field = loadbuffer(s.stem, bk.wavol - s.below); });
 }

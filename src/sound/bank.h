@@ -6,11 +6,14 @@
 
 namespace sound {
 
+// fq after a wave file failed its check: no sound has that frequency.
+inline constexpr int failedCheck = 13;
+
 struct Bank {
     int wavol = 0;    // effects volume, hundredths of a dB, -5000..0
     int wavol2 = 0;   // ticks and power indicators, same scale
     int cowtog = 0;   // 1 silences crowd and ambient sounds
-    int fq = 0;       // frequency last read, or 13 after a failed check
+    int fq = 0;       // frequency last read, or failedCheck
     int powav = 0;    // power indicator choice: 0 regular, else with beeps
     // Buffer ids; 0 is no buffer, and a call on it fails.
     int b_golf1 = 0, b_golf2 = 0, b_golf3 = 0, b_golf4 = 0, b_golf5 = 0;

@@ -32,7 +32,7 @@ void checkIndicator(const char* regular, const char* beeps, long bytes, const ch
             bk.fq = os.getFrequency(bk.sb);
             if (bk.fq == indicatorRate) return;
         }
-        bk.fq = 13;
+        bk.fq = failedCheck;
         StopAllSounds();
         stopWater();
         voice::say(message);
@@ -45,7 +45,7 @@ void checkwaves() {
     platform::attempt([] {
         for (const WaveSize& w : waveSizes) {
             if (sizeInWorkingFolder(w.name) != w.bytes) {
-                bk.fq = 13;
+                bk.fq = failedCheck;
                 return;
             }
         }

@@ -1,6 +1,6 @@
 // The checks on the wave files: all of them present with their exact sizes
 // at start-up, and the power indicator in use before every reading. The
-// verdict stands in bk.fq: 13 means a file failed.
+// verdict stands in bk.fq: failedCheck means a file failed.
 #pragma once
 
 namespace sound {

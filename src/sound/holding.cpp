@@ -18,7 +18,7 @@ void hold(const std::string& a, int volume, bool keyEnds) {
         os.play(mine, 0);
         while (true) {
             os.yield();
-            if (bk.sb != mine || os.getStatus(mine) != 1) break;
+            if (bk.sb != mine || os.getStatus(mine) != platform::statusPlaying) break;
             if (keyEnds && !input::ks.g.empty()) break;
         }
         os.stop(bk.sb);
@@ -33,7 +33,7 @@ void holdPreloaded(int id) {
         os.play(id, 0);
         do {
             os.yield();
-        } while (os.getStatus(id) == 1);
+        } while (os.getStatus(id) == platform::statusPlaying);
         os.setCurrentPosition(id, 0);
     });
 }

@@ -28,7 +28,7 @@ void playcrowdwav() {
     input::clk();
     platform::attempt([] {
         auto& os = platform::os();
-        if (os.getStatus(bk.b_golf10) != 1) os.play(bk.b_golf10, 1);
+        if (os.getStatus(bk.b_golf10) != platform::statusPlaying) os.play(bk.b_golf10, 1);
     });
 }
 

@@ -9,9 +9,9 @@ namespace voice {
 
 using input::ks;
 
-void say(const std::string& text) { platform::os().speak(text, 0); }
-void say2(const std::string& text) { platform::os().speak(text, 1); }
-void stopspeech() { platform::os().speak("", 2); }
+void say(const std::string& text) { platform::os().speak(text, platform::speakWait); }
+void say2(const std::string& text) { platform::os().speak(text, platform::speakQueue); }
+void stopspeech() { platform::os().speak("", platform::speakPurge); }
 
 void saynoc(int noc) {
     if (noc < 10)
@@ -31,15 +31,15 @@ void namekey(int flag) {
 }
 }  // namespace
 
-void saykey() { namekey(1); }
-void saykey2() { namekey(0); }
+void saykey() { namekey(platform::speakQueue); }
+void saykey2() { namekey(platform::speakWait); }
 
 void speechwait(double first) {
     auto& os = platform::os();
     input::dy(first);
     do {
         os.yield();
-    } while (os.runningState() == 2 && ks.g.empty());
+    } while (os.runningState() == platform::speechRunning && ks.g.empty());
     if (!ks.g.empty()) stopspeech();
 }
 

@@ -32,12 +32,14 @@ TEST_F(CourseLocs, EveryTextCarriesItsOwnBlanksAndIsDistinct) {
 }
 
 TEST_F(CourseLocs, LieNamesAreTheFirstSevenIds) {
-    EXPECT_EQ(cs.locs[1], " Fairway ");
-    EXPECT_EQ(cs.locs[2], " Deep Rough ");
-    EXPECT_EQ(cs.locs[4], " Adjacent Fairway ");
-    EXPECT_EQ(cs.locs[5], " A-Sand Trap ");
-    EXPECT_EQ(cs.locs[6], " A-Big Lake ");
-    EXPECT_EQ(cs.locs[7], " Out Of Bounds ");
+    namespace lie = course::lie;
+    EXPECT_EQ(cs.locs[lie::fairway], " Fairway ");
+    EXPECT_EQ(cs.locs[lie::rough], " Deep Rough ");
+    EXPECT_EQ(cs.locs[lie::trees], " Trees ");
+    EXPECT_EQ(cs.locs[lie::adjacent], " Adjacent Fairway ");
+    EXPECT_EQ(cs.locs[lie::trap], " A-Sand Trap ");
+    EXPECT_EQ(cs.locs[lie::pond], " A-Big Lake ");
+    EXPECT_EQ(cs.locs[lie::outofbounds], " Out Of Bounds ");
 }
 
 TEST_F(CourseLocs, SpotTextsKeepHyphensCapitalsAndBlanks) {

@@ -1,12 +1,15 @@
 // The state of a program that has just started, for tests that run round
-// routines in this process: keys, sounds and place names made anew, the
-// round state cleared and the player named " Jo ".
+// routines in this process: every shared struct made anew, the key event
+// wired as start-up wires it, the sounds made, the ambient files counted,
+// the place names filled and the player named " Jo ".
 #pragma once
 
+#include "course/course.h"
 #include "course/locs.h"
 #include "input/keys.h"
 #include "platform/platform.h"
 #include "round/state.h"
+#include "sound/ambient.h"
 #include "sound/bank.h"
 #include "voice/state.h"
 
@@ -14,13 +17,17 @@ namespace roundtest {
 
 inline void freshGame() {
     input::ks = input::KeyState{};
+    input::fkeys = input::FKeyRoutines{};
+    input::fkeys.stopAbAndClaps = sound::stopAbAndClaps;
     voice::vs = voice::VoiceState{};
     sound::bk = sound::Bank{};
-    input::fkeys.stopAbAndClaps = sound::stopAbAndClaps;
+    sound::am = sound::Ambient{};
+    course::cs = course::Course{};
+    play::rs = play::RoundState{};
     platform::os().setKeyHandler([](int code) { input::Form_KeyDown(code); });
     sound::CreateSounds();
+    sound::countamb();
     course::fillLocs();
-    play::rs = play::RoundState{};
     play::rs.pn = " Jo ";
 }
 

@@ -139,7 +139,6 @@ TEST(FullRound, CourseOneToTheEndWithTheCardAndTheCountersAgreeing) {
         c,
         [] {
             roundtest::freshGame();
-            sound::countamb();
             sound::bk.ab = sound::loadbuffer("golf0", 0);
             play::rs.c = 1;
             platform::reseed(platform::os().tick());

@@ -35,10 +35,7 @@ inline const std::string kPrompt =
 // The state of a program that has started, with course c loaded and the
 // start-up sound in the ambient buffer as the entry leaves it.
 inline void freshRound(int c) {
-    input::fkeys = input::FKeyRoutines{};
-    sound::am = sound::Ambient{};
     roundtest::freshGame();
-    sound::countamb();
     platform::attempt([] { sound::bk.ab = sound::loadbuffer("golf0", 0); });
     play::rs.c = c;
     play::loadcourse();

@@ -120,6 +120,25 @@ TEST(WaveTable, IndicatorsRunAtTheirOwnRateAndTwinsShareTheirSize) {
     EXPECT_EQ(sound::indicatorRate, 11025);
 }
 
+TEST(WaveTable, EveryNamedStemIsACheckedFileOfItsOwn) {
+    namespace stem = sound::stem;
+    const char* const stems[] = {
+        stem::jingle, stem::strike, stem::sandStrike, stem::misuseSwing, stem::sink, stem::splash,
+        stem::puttIndicator, stem::hitIndicator, stem::crowdOoh, stem::crowdAww, stem::crowdLoop,
+        stem::clap1, stem::clap2, stem::clap3, stem::trees, stem::jingleEnd, stem::tick, stem::puttStrike,
+        stem::bigSwing, stem::error, stem::birdie, stem::par, stem::eagle, stem::penalty, stem::holeInOne,
+        stem::worse, stem::powerSample, stem::puttIndicatorBeeps, stem::hitIndicatorBeeps, stem::voiceWait,
+        stem::washer, stem::water};
+    std::set<std::string> seen;
+    for (const char* s : stems) {
+        EXPECT_NE(sound::findWave((std::string(s) + ".wav").c_str()), nullptr) << s;
+        EXPECT_TRUE(seen.insert(s).second) << s << " named twice";
+    }
+    EXPECT_EQ(seen.size(), 32u);   // golf0 to golf31
+    EXPECT_EQ(sound::hitIndicatorName, std::string(stem::hitIndicator) + ".wav");
+    EXPECT_EQ(sound::puttIndicatorBeepsName, std::string(stem::puttIndicatorBeeps) + ".wav");
+}
+
 TEST_F(GameWaves, MatchTheSizeTableAndAPlainPcmHeader) {
     for (const sound::WaveSize& w : sound::waveSizes) {
         SCOPED_TRACE(w.name);
