@@ -15,9 +15,7 @@ namespace {
 using input::ks;
 
 void movepointer(int by) {
-    rs.noc += by;
-    if (rs.noc == 0) rs.noc = 10;
-    if (rs.noc == 11) rs.noc = 1;
+    rs.noc = movednoc(rs.noc, by);
     input::clk();
     voice::saynoc(rs.noc);
 }
@@ -29,7 +27,7 @@ void sayanswer() {
 
 void askwoodoriron() {
     input::clk();
-    rs.wi = rs.club <= 4 ? 1 : 2;
+    rs.wi = offeredwi(rs.club);
     voice::say2(" select ");
     sayanswer();
 }
@@ -41,45 +39,31 @@ bool rejected() {
 }
 
 // The key at the wood or iron question, as the code of the letter it
-// stands for: Enter takes the offered answer.
+// stands for.
 std::string woodoriron() {
     while (true) {
         keywait();
-        if (ks.g == key::Up || ks.g == key::Down) {
-            rs.wi = rs.wi == 1 ? 2 : 1;
-            input::clk();
-            sayanswer();
-            continue;
-        }
-        if (ks.g == key::Enter) {
-            if (rs.wi == 1) return key::W;
-            if (rs.wi == 2) return key::I;
-            return ks.g;
-        }
-        if (ks.g2 == "w") return key::W;
-        if (ks.g2 == "i") return key::I;
-        return ks.g;
+        if (ks.g != key::Up && ks.g != key::Down) return answercode(ks.g, ks.g2, rs.wi);
+        rs.wi = rs.wi == 1 ? 2 : 1;
+        input::clk();
+        sayanswer();
     }
 }
 
-bool wedgechosen(const std::string& code) {
+bool wedgechosen() {
     rs.noc = 1;
-    if (code != key::W) return rejected();
     rs.wedge = 1;
-    rs.club = 20;
+    rs.club = wedgeClub;
     return true;
 }
 
 bool secondwait() {
-    std::string code = woodoriron();
-    if (rs.pflag == 1) return wedgechosen(code);
-    if (code == key::W) return rs.club <= 4 ? true : rejected();
-    if (code == key::I) {
-        rs.club += 9.5;
-        return true;
-    }
+    double chosen = chosenclub(woodoriron(), rs.club, rs.pflag);
     rs.noc = 1;
-    return rejected();
+    if (chosen == 0) return rejected();
+    if (rs.pflag == 1) return wedgechosen();
+    rs.club = chosen;
+    return true;
 }
 
 // The first key wait; false when the key was no choice.
@@ -93,7 +77,7 @@ bool firstwait() {
         }
         if (ks.g == key::Enter) {
             input::clk();
-            if (rs.noc == 10) return wedgechosen(key::W);
+            if (rs.noc == 10) return wedgechosen();
             rs.keynum = rs.noc + key::code::Digit0;
         } else if (ks.g2 == "p") {
             rs.noc = 1;
@@ -103,7 +87,7 @@ bool firstwait() {
         }
         rs.noc = 1;
         rs.club = rs.keynum - key::code::Digit0;
-        if (rs.club < 1 || rs.club > 9) {
+        if (!digitclub(rs.club)) {
             notchoice();
             return false;
         }
@@ -113,6 +97,35 @@ bool firstwait() {
 }
 
 }  // namespace
+
+int movednoc(int noc, int by) {
+    noc += by;
+    if (noc == 0) return 10;
+    if (noc == 11) return 1;
+    return noc;
+}
+
+bool digitclub(double club) { return club >= 1 && club <= 9; }
+
+int offeredwi(double club) { return club <= 4 ? 1 : 2; }
+
+std::string answercode(const std::string& g, const std::string& g2, int wi) {
+    if (g == key::Enter) {
+        if (wi == 1) return key::W;
+        if (wi == 2) return key::I;
+        return g;   // no answer offered yet
+    }
+    if (g2 == "w") return key::W;
+    if (g2 == "i") return key::I;
+    return g;
+}
+
+double chosenclub(const std::string& code, double club, int pflag) {
+    if (pflag == 1) return code == key::W ? wedgeClub : 0;   // "p" then "w" spells PW
+    if (code == key::W) return club <= 4 ? club : 0;        // no 5 wood
+    if (code == key::I) return club + 9.5;
+    return 0;
+}
 
 void clubprompt() {
     voice::say2(clubPrompt);

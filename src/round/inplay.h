@@ -17,8 +17,9 @@ struct LeaveRound {};
 // menu hands back g = key::F1 with g2 empty and keynum 27.
 void keywait();
 // " That is not A-choice. ", the error sound and " please try again. ";
-// silent for the F1 that a menu leaves behind.
-void notchoice();
+// silent for the F1 that a menu leaves behind. With keyCuts a key during
+// the error sound also skips " please try again. ", as at the range.
+void notchoice(bool keyCuts = false);
 
 // The Escape menu at the beginning of a hole, with saving, and the one in
 // play. The other entries leave the round or the program; "return to game"

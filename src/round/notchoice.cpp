@@ -7,7 +7,7 @@
 
 namespace play {
 
-void notchoice() {
+void notchoice(bool keyCuts) {
     auto& ks = input::ks;
     if (ks.g == key::F1) {
         ks.g.clear();
@@ -18,6 +18,7 @@ void notchoice() {
     voice::speechwait(0.2);
     if (!ks.g.empty()) return;
     sound::play2(sound::stem::error);
+    if (keyCuts && !ks.g.empty()) return;
     voice::say2(" please try again. ");
     voice::speechwait(0.2);
 }

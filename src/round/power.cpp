@@ -18,15 +18,14 @@ int hitpowFrom(long position, long length) {
     return h == 0 ? 1 : h;
 }
 
-namespace {
-
-// Three ticks at the power volume, each followed by a pause.
 void ticks() {
     for (int i = 0; i < 3; ++i) {
         sound::play3(sound::stem::tick);
         input::dy(0.3);
     }
 }
+
+namespace {
 
 void countdownhead() {
     sound::StopAllSounds();

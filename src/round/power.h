@@ -8,6 +8,8 @@ namespace play {
 void swing();
 // The countdown of a putt and its reading; leaves hitpow, pw = 0.
 void puttswing();
+// The three ticks at the power volume, each followed by a pause.
+void ticks();
 // One reading of the hit or the putt indicator into hitpow.
 void GetHitPow();
 void GetPuttPow();
