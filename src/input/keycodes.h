@@ -45,6 +45,7 @@ inline constexpr char Escape[] = "27";
 inline constexpr char Space[] = "32";
 inline constexpr char Up[] = "38";
 inline constexpr char Down[] = "40";
+inline constexpr char E[] = "69";
 inline constexpr char I[] = "73";
 inline constexpr char W[] = "87";
 inline constexpr char F1[] = "112";
