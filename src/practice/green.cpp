@@ -26,7 +26,7 @@ bool puttonce() {
     greenwait();
     countdown();
     sound::checkputtwav();
-    if (sound::bk.fq == 13) return false;
+    if (sound::bk.fq == sound::failedCheck) return false;
     platform::attempt(play::GetPuttPow);
     pr.pgf2 = 2;
     pr.puttpow = play::rs.hitpow / 5.0;
@@ -80,7 +80,7 @@ void puttting() {
         do {
             newball();
         } while (playball());
-        if (sound::bk.fq == 13) return;   // the crowd stays off; the menu leaves the game
+        if (sound::bk.fq == sound::failedCheck) return;   // the crowd stays off; the menu leaves the game
     } catch (const LeaveArea&) {
     }
     restorecow();

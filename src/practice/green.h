@@ -11,7 +11,7 @@ inline constexpr const char* holedPrompt = " Press any key to continue, or e to 
 // A new ball: the generator seeded from the clock, 1 to 40 feet out.
 void newball();
 // The ball in the practice state putted until it drops, then the prompt to
-// go on; false when "e" was pressed there. Leaves fq at 13 after a failed
+// go on; false when "e" was pressed there. Leaves fq at failedCheck after a failed
 // check of the indicator.
 bool playball();
 // The green's key wait: F1 and F2 are answered here, Escape leaves the

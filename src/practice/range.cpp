@@ -13,6 +13,7 @@
 #include "round/state.h"
 #include "sound/bank.h"
 #include "sound/checks.h"
+#include "sound/wave_table.h"
 #include "voice/speech.h"
 #include "voice/text.h"
 
@@ -29,7 +30,7 @@ void hit() {
     pr.pw = play::rs.hitpow * 2 / 100.0;
     if (pr.club >= 8) pr.club -= 5;   // irons and the wedge: no club or lie rules here
     sound::playgolfwav();
-    if (pr.pw > 0.97) sound::play("golf18");
+    if (pr.pw > 0.97) sound::play(sound::stem::bigSwing);
     pr.yds = play::swingcarry(play::fullcarry(0, pr.club, platform::U()), pr.pw);
     input::dy(pr.yds / 250.0);
 }
@@ -42,7 +43,7 @@ After rangeshot() {
     rangeclub();
     countdown();
     sound::CheckHitWav();
-    if (sound::bk.fq == 13) {
+    if (sound::bk.fq == sound::failedCheck) {
         platform::attempt([] { platform::os().beep(); });
         return After::broken;
     }

@@ -4,6 +4,7 @@
 #include "platform/platform.h"
 #include "practice/practice.h"
 #include "sound/bank.h"
+#include "sound/wave_table.h"
 
 namespace practice {
 
@@ -16,7 +17,7 @@ void ballwasher() {
         os.play(bk.b_golf10, 1);
     });
     platform::attempt([&] {
-        sound::replaceSb(sound::loadbuffer("golf30", bk.wavol));
+        sound::replaceSb(sound::loadbuffer(sound::stem::washer, bk.wavol));
         os.play(bk.sb, 1);
     });
     while (input::ks.g.empty()) os.yield();

@@ -50,7 +50,7 @@ struct Ball {
 Ball ball(double feet, const std::string& script) {
     Ball b;
     b.r = runInProcess(script, [&] {
-        practicetest::freshVisit();
+        roundtest::freshGame();
         sound::bk.cowtog = 1;
         practice::pr.practicefeet = feet;
         try {
@@ -223,7 +223,7 @@ TEST(PracticeGreen, AVisitHolesABallGetsANewOneAndLeaves) {
         });
         std::istream in(&feed);
         simtest::runInProcessLive(in, [&] {
-            practicetest::freshVisit();
+            roundtest::freshGame();
             sound::bk.cowtog = cow;
             practice::puttting();
             returned = true;
@@ -250,7 +250,7 @@ TEST(PracticeGreen, ABadIndicatorEndsTheGreenWithTheCrowdOff) {
     std::string dir = practicetest::gameWithout("golf6.wav");
     bool returned = false;
     auto r = runInProcess("expect \"ready to putt\"\nkey Space\nexpect \"putt power wave file\"\nend\n", [&] {
-        practicetest::freshVisit();
+        roundtest::freshGame();
         practice::puttting();
         returned = true;
     }, "", dir);

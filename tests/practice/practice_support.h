@@ -1,21 +1,15 @@
-// Shared by the practice tests: a program that has just started, the figures
-// read back from a transcript, and the sounds a visit must not make.
+// Shared by the practice tests: the figures read back from a transcript, the
+// sounds a visit must not make, and a game folder with a spoiled file.
 #pragma once
 
 #include <cstdlib>
 #include <filesystem>
 #include <string>
 
-#include "practice/state.h"
 #include "round/fresh_game.h"
 #include "sim_harness.h"
 
 namespace practicetest {
-
-inline void freshVisit() {
-    roundtest::freshGame();
-    practice::pr = practice::PracticeState{};
-}
 
 // The number behind the first occurrence of what in line at; -1 if none.
 inline int numberAfter(const simtest::Result& r, int at, const std::string& what) {

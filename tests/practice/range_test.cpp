@@ -49,7 +49,7 @@ struct Visit {
 Visit visit(const std::string& script, int cow = 0, std::uint64_t seed = 1, const std::string& game = GREENLARK_GAME_DIR) {
     Visit v;
     v.r = runInProcess(script, [&] {
-        practicetest::freshVisit();
+        roundtest::freshGame();
         play::rs.washed = 0;
         play::rs.dirty = 1;
         sound::bk.cowtog = cow;

@@ -22,7 +22,7 @@ namespace {
 TEST(BallWasher, TheWasherRunsOverAQuietCrowdUntilAKey) {
     bool returned = false;
     auto r = runInProcess("wait 3\nkey Space\nend\n", [&] {
-        practicetest::freshVisit();
+        roundtest::freshGame();
         sound::bk.wavol = -300;
         sound::bk.cowtog = 1;   // the crowd is heard here all the same
         input::ks.g = "32";     // pressed before the washing: dropped

@@ -8,6 +8,7 @@
 #include "course/locs.h"
 #include "input/keys.h"
 #include "platform/platform.h"
+#include "practice/state.h"
 #include "round/state.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
@@ -24,6 +25,7 @@ inline void freshGame() {
     sound::am = sound::Ambient{};
     course::cs = course::Course{};
     play::rs = play::RoundState{};
+    practice::pr = practice::PracticeState{};
     platform::os().setKeyHandler([](int code) { input::Form_KeyDown(code); });
     sound::CreateSounds();
     sound::countamb();
