@@ -9,6 +9,8 @@
 //                   carried for the course files; no rule of play reads them)
 //   cs.HS[hole][s]  custom text of a .gcx course: s = 1 left, 2 right
 //   cs.HF[hole]     greenside flag: 1 pond and sand trap, 2 sand trap only
+//   cs.partag[hole] tag of the par as its course file held it (2 for every
+//                   other course); the round's total takes the widest
 //   cs.locs[id]     spoken place names, ids 1..162; 0 and 163..165 empty
 //   cs.fox          naming rule: 1 vocabulary only, 2 with .gcx custom text
 //   cs.cname[a], cs.cfile[a]  catalogue entries; 1..6 are the built-ins
@@ -35,6 +37,7 @@ struct Course {
     int H[holeSlots][fieldSlots] = {};
     std::string HS[holeSlots][textSlots];
     int HF[holeSlots] = {};
+    int partag[holeSlots] = {};
     std::string locs[locSlots];
     int fox = 1;
     std::string cname[catSlots];

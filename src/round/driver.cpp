@@ -1,6 +1,7 @@
 // The order of a round: its start, the hole loop and the shots of a hole.
 #include "round/driver.h"
 
+#include "course/stored.h"
 #include "input/keys.h"
 #include "platform/platform.h"
 #include "round/club.h"
@@ -28,10 +29,6 @@ void step(F f) {
 void playround() {
     rs.nsaves = 0;
     step(loadgame);
-    if (rs.resumed == 1) {
-        rs.resumeskip = 1;
-        step(loadcourse);
-    }
     input::clk();
     rs.dirty = rs.washed == 1 ? 0 : 1;
     rs.hookset = 3;
@@ -49,6 +46,7 @@ void newround() {
     rs.hole = 1;
     rs.stks = 0;
     rs.total = 0;
+    rs.totaltag = course::tagShort;
     rs.BAD = rs.DOUBLEBOGEY = rs.Bogey = rs.PARS = 0;
     rs.BIRDIE = rs.EAGLE = rs.DOUEAG = rs.HOLEINONE = 0;
     step(pickcourse);

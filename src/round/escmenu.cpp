@@ -28,13 +28,6 @@ void silence() {
     sound::stopWater();
 }
 
-// The saved game deleted, if there is one.
-void deletesave() {
-    auto& os = platform::os();
-    std::string path = kp() + "/golfgame.sav";
-    if (!os.list(path).empty()) os.removeFile(path);
-}
-
 }  // namespace
 
 void escmenu() {

@@ -1,6 +1,7 @@
 // The start of a hole and its spoken description.
 #include "course/course.h"
 #include "course/locs.h"
+#include "course/stored.h"
 #include "input/keys.h"
 #include "platform/platform.h"
 #include "round/driver.h"
@@ -10,6 +11,17 @@
 #include "voice/speech.h"
 
 namespace play {
+
+namespace {
+
+// The hole's par joins the total; a par that came with a wider tag from its
+// course file widens the total's.
+void addpar() {
+    rs.total += rs.par;
+    rs.totaltag = course::widest(rs.totaltag, course::cs.partag[rs.hole]);
+}
+
+}  // namespace
 
 void starthole() {
     if (rs.hole < 1 || rs.hole > 18) throw platform::Failure("no such hole");
@@ -33,7 +45,7 @@ void starthole() {
     if (rs.resumeskip == 1)
         rs.resumeskip = 0;
     else
-        rs.total += rs.par;
+        addpar();
 }
 
 std::string holetext() {

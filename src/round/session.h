@@ -4,20 +4,20 @@
 
 #include <string>
 
+#include "session/savedgame.h"
+
 namespace play {
 
 // The player's folder kp: the documents folder + "/brindlewick".
 std::string kp();
-// Reads the saved game: resumed, and when 1 the round's figures.
-void loadgame();
-// The saved game replaced by the mark of no saved game.
-void clearsave();
-// Writes the saved game, then leaves the program; does not return.
-void savegame();
+// The saved game and the course loader (session/savedgame.h).
+using session::clearsave;
+using session::deletesave;
+using session::loadcourse;
+using session::loadgame;
+using session::savegame;
 // The player picks a course: c, the log's head, loadcourse.
 void pickcourse();
-// Fills the hole table of course c.
-void loadcourse();
 // Leaves the program; does not return.
 void leavegame();
 

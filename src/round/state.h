@@ -16,6 +16,7 @@ struct RoundState {
     int hole = 1;      // 1..18 in play; 19 once all holes are done
     int stks = 0;      // strokes of the finished holes
     int total = 0;     // sum of the pars of the holes begun
+    int totaltag = 2;  // stored tag of total: the widest tag of the pars summed
     int BAD = 0, DOUBLEBOGEY = 0, Bogey = 0, PARS = 0;
     int BIRDIE = 0, EAGLE = 0, DOUEAG = 0, HOLEINONE = 0;
     int sank = 0;      // class of the last holed ball, 1..8

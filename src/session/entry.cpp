@@ -3,12 +3,14 @@
 // on the first built-in course.
 #include "session/entry.h"
 
+#include "course/catalogue.h"
 #include "course/course.h"
 #include "course/locs.h"
 #include "input/keys.h"
 #include "platform/platform.h"
 #include "platform/rnd.h"
 #include "round/driver.h"
+#include "round/session.h"
 #include "round/state.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
@@ -47,6 +49,7 @@ bool wavesPass() {
 // Until the main menu exists: one round on the first built-in course.
 void roundOnFirstCourse(const std::string& name) {
     if (course::cs.locs[1].empty()) course::fillLocs();
+    play::rs.nocs = course::GetCors(play::kp());
     platform::reseed(platform::os().tick());
     play::rs.pn = name;
     play::rs.c = 1;
