@@ -125,7 +125,7 @@ void loadcourse() {
     }
     if (rs.c == rs.nocs)
         course::setrandomcourse();
-    else if (rs.c < 7)
+    else if (rs.c <= course::builtins)
         course::SetHolesData(rs.c);
     else
         course::GetCusCors(play::kp(), rs.c);
