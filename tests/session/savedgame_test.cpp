@@ -3,7 +3,12 @@
 // file, a full disk, and files this program never writes.
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <filesystem>
+#include <functional>
+#include <istream>
+#include <optional>
+#include <streambuf>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -15,7 +20,10 @@
 #include "course/textfile.h"
 #include "course/coursefiles.h"
 #include "platform/files.h"
+#include "platform/rnd.h"
 #include "round/driver.h"
+#include "round/fresh_game.h"
+#include "round/fullround_caddie.h"
 #include "round/inplay.h"
 #include "round/inplay_support.h"
 #include "round/session.h"
@@ -92,13 +100,25 @@ TEST_F(SavedGame, TheMarkerIsFourBytesAndAFullSaveSixtyFour) {
 
 // ---- saved at a tee and taken up again
 
-// As if holes 1 to 6 of course 1 had been played: the loop goes on at hole 7.
-void fromHoleSeven() {
-    inplay::freshRound(1);
-    rs.hole = 7, rs.stks = 29, rs.total = 25;
-    rs.DOUBLEBOGEY = 1, rs.Bogey = 2, rs.PARS = 2, rs.BIRDIE = 1;
-    play::holeloop();
-}
+// Script lines made one at a time, as the live runner asks for them.
+class Feed : public std::streambuf {
+public:
+    explicit Feed(std::function<std::optional<std::string>()> next) : next_(std::move(next)) {}
+
+protected:
+    int_type underflow() override {
+        if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
+        auto line = next_();
+        if (!line) return traits_type::eof();
+        buf_ = *line + "\n";
+        setg(buf_.data(), buf_.data(), buf_.data() + buf_.size());
+        return traits_type::to_int_type(*gptr());
+    }
+
+private:
+    std::function<std::optional<std::string>()> next_;
+    std::string buf_;
+};
 
 const char* kSave = R"(key Escape
 expect " save and exit game "
@@ -106,28 +126,70 @@ key Enter
 expect " game saved "
 )";
 
+// Course 1 played by ear from its first tee; at the tee of hole `stop` the
+// player saves and leaves.
+simtest::Result playAndSaveAt(int stop, const std::string& docs, caddie::Caddie& c) {
+    std::deque<std::string> save = {"expect \"Select Your Club\"", "key Escape", "expect \" save and exit game \"",
+                                    "key Enter", "expect \" game saved \""};
+    const std::string tee = "You are at hole number  " + std::to_string(stop) + ".";
+    simtest::Result out;
+    size_t heard = 0;
+    bool there = false;
+    Feed feed([&]() -> std::optional<std::string> {
+        for (; heard < out.lines.size(); ++heard) there = there || out.lines[heard].find(tee) != std::string::npos;
+        if (!there) return c.next(out.lines);
+        if (save.empty()) return std::nullopt;
+        std::string line = save.front();
+        save.pop_front();
+        return line;
+    });
+    std::istream in(&feed);
+    simtest::runInProcessLive(in, [] {
+        roundtest::freshGame();
+        rs.c = 1;
+        platform::reseed(platform::os().tick());
+        play::playround();
+    }, out, docs);
+    return out;
+}
+
 TEST_F(SavedGame, SavedAtHoleSevenTheNextRunResumesThereWithTheSameTotal) {
-    auto first = simtest::runInProcess("expect \"hole number  7\"\n" + std::string(kSave), fromHoleSeven, docs);
+    caddie::Caddie c;
+    auto first = playAndSaveAt(7, docs, c);
     ASSERT_EQ(first.code, 0) << first.dump();
-    EXPECT_EQ(numbers(slurp(sav)), kHoleSeven) << "total 25 and the par of hole 7";
+    ASSERT_EQ(c.cards().size(), 6u) << first.dump();
+    int strokes = 0;
+    for (const auto& card : c.cards()) strokes += card.strokes;
+    std::vector<double> saved = numbers(slurp(sav));
+    ASSERT_EQ(saved.size(), 16u);
+    EXPECT_EQ(saved[0], 1);
+    EXPECT_EQ(saved[1], 7);
+    EXPECT_EQ(saved[2], strokes) << "the strokes of the six holes as heard";
+    double counted = 0;
+    for (int i = 3; i < 11; ++i) counted += saved[size_t(i)];
+    EXPECT_EQ(counted, 6) << "one score counter for each hole played";
+    EXPECT_EQ(saved[11], 28) << "the pars of holes 1 to 7";
+    EXPECT_EQ(saved[14], 1);
+    EXPECT_EQ(saved[15], 1);
     EXPECT_GT(first.find("exit", first.find(" game saved ")), 0) << "saving leaves the program";
 
     auto second = simtest::runBinary(std::string(simtest::kToTheTee) + "expect \"Select Your Club\"\n" + kSave,
                                      {"--docs", docs});
     ASSERT_EQ(second.code, 0) << second.dump();
-    int tee = second.find("You are at hole number  7. distance  185 yards. par  3.");
-    EXPECT_GT(tee, 0) << second.dump();
+    EXPECT_TRUE(second.has("You are at hole number  7. distance  185 yards. par  3.")) << second.dump();
     EXPECT_FALSE(second.has("hole number  1.")) << "no new round, no picker";
-    std::vector<double> again = kHoleSeven;
+    std::vector<double> again = saved;
     again[15] = 2;   // nsaves
     EXPECT_EQ(numbers(slurp(sav)), again) << "total not raised a second time";
 }
 
 TEST_F(SavedGame, AResumedRoundRaisesTheTotalAgainFromTheNextHole) {
-    put(savedFile(kHoleSeven));
+    std::vector<double> washedBefore = kHoleSeven;
+    washedBefore[12] = 0;   // dirty: the ball was washed in the run that saved
+    washedBefore[13] = 7;   // hookset
+    put(savedFile(washedBefore));
     auto r = simtest::runInProcess("expect \"Select Your Club\"\n", [] {
         inplay::freshRound(2);
-        rs.washed = 1;
         play::playround();
     }, docs);
     ASSERT_EQ(r.code, 0) << r.dump();
@@ -135,7 +197,7 @@ TEST_F(SavedGame, AResumedRoundRaisesTheTotalAgainFromTheNextHole) {
     EXPECT_EQ(rs.c, 1) << "the course of the saved game";
     EXPECT_EQ(rs.total, 28);
     EXPECT_EQ(rs.resumeskip, 0);
-    EXPECT_EQ(rs.dirty, 0) << "from the washer of this run, not from the file";
+    EXPECT_EQ(rs.dirty, 1) << "from the washer of this run, not from the file";
     EXPECT_EQ(rs.hookset, 3);
     EXPECT_EQ(rs.resumed, 1);
     // The next hole of the same round.
