@@ -1,7 +1,9 @@
 # Sourced by the benchmark scripts: a private PulseAudio with a null sink
 # "cap" and a private Xvfb, both in a temporary folder and stopped by
 # process id when the script ends.
-#   rig_pulse      starts PulseAudio (sets HOME and XDG_RUNTIME_DIR)
+#   rig_pulse      starts PulseAudio (sets HOME and XDG_RUNTIME_DIR); with
+#                  RIG_PULSE_DEBUG=1 its log in $RIG/pulse.log is at debug
+#                  level with times, which names every underrun of a stream
 #   rig_xvfb       starts Xvfb on a free display (sets DISPLAY)
 #   rig_window     waits for the game's window, prints its id
 #   rig_track PID  stops PID when the script ends
@@ -27,7 +29,9 @@ rig_pulse() {
   export HOME=$RIG/home XDG_RUNTIME_DIR=$RIG/xdg
   mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
   # Run as root without a session bus: warnings about both are harmless.
-  pulseaudio -D -n --exit-idle-time=-1 --disallow-exit \
+  local level=()
+  [ -n "${RIG_PULSE_DEBUG:-}" ] && level=(--log-level=debug --log-time=1)
+  pulseaudio -D -n --exit-idle-time=-1 --disallow-exit "${level[@]}" \
     --load="module-native-protocol-unix" \
     --load="module-null-sink sink_name=cap rate=48000 format=s16le channels=2" \
     --log-target=file:"$RIG/pulse.log" 2>/dev/null
