@@ -1,6 +1,7 @@
 #include "platform/real/audio_output.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 
 #include "platform/platform.h"
@@ -10,6 +11,8 @@ namespace platform::real {
 namespace {
 
 constexpr int kRate = 48000;
+// While the stream runs, the keeper looks this often whether it may stop.
+constexpr int kLookMs = 250;
 
 }  // namespace
 
@@ -37,28 +40,98 @@ void AudioOutput::open(const std::string& driver) {
     want.samples = Uint16(periodFrames(driver, kRate));
     want.callback = &AudioOutput::callback;
     want.userdata = this;
-    device_ = SDL_OpenAudioDevice(nullptr, 0, &want, &spec_,
-                                  SDL_AUDIO_ALLOW_FREQUENCY_CHANGE | SDL_AUDIO_ALLOW_FORMAT_CHANGE);
-    if (device_ && spec_.format != AUDIO_F32SYS && spec_.format != AUDIO_S16SYS) {
-        SDL_CloseAudioDevice(device_);
-        device_ = SDL_OpenAudioDevice(nullptr, 0, &want, &spec_, SDL_AUDIO_ALLOW_FREQUENCY_CHANGE);
+    SDL_AudioDeviceID device = SDL_OpenAudioDevice(nullptr, 0, &want, &spec_,
+                                                   SDL_AUDIO_ALLOW_FREQUENCY_CHANGE | SDL_AUDIO_ALLOW_FORMAT_CHANGE);
+    if (device && spec_.format != AUDIO_F32SYS && spec_.format != AUDIO_S16SYS) {
+        SDL_CloseAudioDevice(device);
+        device = SDL_OpenAudioDevice(nullptr, 0, &want, &spec_, SDL_AUDIO_ALLOW_FREQUENCY_CHANGE);
     }
-    if (!device_) throw Failure(std::string("no sound device: ") + SDL_GetError());
+    if (!device) throw Failure(std::string("no sound device: ") + SDL_GetError());
+    device_ = device;
 }
 
-AudioOutput::AudioOutput(std::uint32_t wakeEvent) {
+AudioOutput::AudioOutput(std::uint32_t wakeEvent, int sleepMs) {
     const char* driver = SDL_GetCurrentAudioDriver();
     if (!driver) throw Failure("no audio driver");
     open(driver);
     scratch_.resize(size_t(spec_.samples) * 2 * 4);
     mixer_ = std::make_unique<Mixer>(spec_.freq, latencyFrames(driver, spec_.samples));
     waker_ = std::make_unique<Waker>(*mixer_, wakeEvent);
+    sleepMs_ = std::string(driver) == "disk" ? 0 : sleepMs;
+    wokenAt_ = monotonicNs();
     SDL_PauseAudioDevice(device_, 0);
+    keeper_ = std::thread([this] { keep(); });
 }
 
 AudioOutput::~AudioOutput() {
-    SDL_CloseAudioDevice(device_);
+    {
+        std::lock_guard lock(keepMutex_);
+        quit_ = true;
+    }
+    keepWake_.notify_all();
+    keeper_.join();
+    close();
     waker_.reset();
+}
+
+// The stream starts again as it was first opened; the mixer's clock starts
+// anew. When the device cannot be opened the stream stays stopped until the
+// next wake().
+void AudioOutput::reopen() {
+    SDL_AudioSpec want = spec_;
+    want.callback = &AudioOutput::callback;
+    want.userdata = this;
+    mixer_->deviceRestarted();
+    SDL_AudioDeviceID device = SDL_OpenAudioDevice(nullptr, 0, &want, nullptr, 0);
+    if (!device) return;
+    device_ = device;
+    SDL_PauseAudioDevice(device, 0);
+}
+
+void AudioOutput::close() {
+    if (device_) SDL_CloseAudioDevice(device_);
+    device_ = 0;
+}
+
+void AudioOutput::wake() {
+    {
+        std::lock_guard lock(keepMutex_);
+        wokenAt_ = monotonicNs();
+        wanted_ = true;
+    }
+    keepWake_.notify_all();
+}
+
+// Nothing has sounded, and nothing was about to, for the whole stretch.
+bool AudioOutput::maySleep() {
+    if (sleepMs_ <= 0) return false;
+    std::int64_t frames = std::int64_t(sleepMs_) * spec_.freq / 1000;
+    return mixer_->quietFrames() >= frames && monotonicNs() - wokenAt_ >= std::int64_t(sleepMs_) * 1000000;
+}
+
+// The keeper's thread: starts the stream when something is to sound, stops
+// it after a quiet stretch.
+void AudioOutput::keep() {
+    std::unique_lock lock(keepMutex_);
+    while (!quit_) {
+        if (!streaming()) {
+            keepWake_.wait(lock, [this] { return quit_ || wanted_; });
+            if (quit_) break;
+            wanted_ = false;
+            lock.unlock();
+            reopen();
+            lock.lock();
+            continue;
+        }
+        keepWake_.wait_for(lock, std::chrono::milliseconds(kLookMs));
+        wanted_ = false;
+        if (quit_ || !maySleep()) continue;
+        lock.unlock();
+        close();
+        lock.lock();
+        // A sound that started while the stream was stopping starts it again.
+        if (mixer_->quietFrames() == 0) wanted_ = true;
+    }
 }
 
 void SDLCALL AudioOutput::callback(void* self, Uint8* stream, int len) {

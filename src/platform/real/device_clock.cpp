@@ -34,10 +34,16 @@ void DeviceClock::handedOut(std::int64_t first, int frames, std::int64_t ns) {
     handedEnd_ = first + frames;
 }
 
+void DeviceClock::restart() {
+    count_ = 0;
+    next_ = 0;
+    heardFloor_ = handedEnd_;
+}
+
 double DeviceClock::heardFrame(std::int64_t ns) const {
-    if (count_ == 0) return 0;
+    if (count_ == 0) return double(heardFloor_);
     double frame = (double(ns) - lowest_) / nsPerFrame_ - latency_;
-    return std::clamp(frame, 0.0, double(handedEnd_));
+    return std::clamp(frame, double(heardFloor_), double(handedEnd_));
 }
 
 std::int64_t DeviceClock::timeOfFrame(double frame) const {

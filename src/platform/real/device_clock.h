@@ -8,6 +8,7 @@
 // places the listener the device's buffering behind it. When the device
 // falls behind (a stall, an underrun) every later request is late by the
 // same amount: once the last few all are, the older ones are forgotten.
+// When the stream stops and starts again, the device's clock starts anew.
 #pragma once
 
 #include <array>
@@ -28,8 +29,11 @@ public:
 
     // A request for `frames` frames starting at device frame `first`, made at `ns`.
     void handedOut(std::int64_t first, int frames, std::int64_t ns);
+    // The stream stopped after everything handed out was heard, and the
+    // device will ask again from a new start: the old requests are forgotten.
+    void restart();
     // The device frame being heard at `ns` (fractional; never past what was
-    // handed out, never below 0).
+    // handed out, never before what was heard when the stream last stopped).
     double heardFrame(std::int64_t ns) const;
     // When device frame `frame` will be heard.
     std::int64_t timeOfFrame(double frame) const;
@@ -46,6 +50,7 @@ private:
     int next_ = 0;
     double lowest_ = 0;
     std::int64_t handedEnd_ = 0;
+    std::int64_t heardFloor_ = 0;
 };
 
 }  // namespace platform::real

@@ -12,23 +12,25 @@ Sound& Mixer::find(int id) {
     return *it->second;
 }
 
+// The sound and its place in the table are made before the lock is taken,
+// and freed after it is let go: the audio callback shares the lock.
 int Mixer::add(const Wave& wave) {
-    auto sound = std::make_unique<Sound>(decodeSound(wave));
+    std::map<int, std::unique_ptr<Sound>> made;
+    made.emplace(0, std::make_unique<Sound>(decodeSound(wave)));
+    auto node = made.extract(made.begin());
     std::lock_guard lock(mutex_);
     int id = nextId_++;
-    sounds_.emplace(id, std::move(sound));
+    node.key() = id;
+    sounds_.insert(std::move(node));
     return id;
 }
 
 void Mixer::release(int id) {
-    std::unique_ptr<Sound> gone;
-    {
-        std::lock_guard lock(mutex_);
-        auto it = sounds_.find(id);
-        if (it == sounds_.end()) throw Failure("no sound buffer " + std::to_string(id));
-        gone = std::move(it->second);
-        sounds_.erase(it);
-    }
+    decltype(sounds_)::node_type gone;
+    std::lock_guard lock(mutex_);
+    auto it = sounds_.find(id);
+    if (it == sounds_.end()) throw Failure("no sound buffer " + std::to_string(id));
+    gone = sounds_.extract(it);
 }
 
 void Mixer::releaseAll() {

@@ -50,6 +50,12 @@ public:
     // Fills `frames` interleaved stereo frames. Returns true when a one-shot
     // or the speech ran out in this block.
     bool render(float* out, int frames, std::int64_t now);
+    // How many frames the output has been silent for: the blocks rendered
+    // since the last one with a sound playing or speech in it; 0 while a
+    // sound plays or speech waits to be mixed.
+    std::int64_t quietFrames();
+    // The stream stopped after a quiet stretch and is about to start again.
+    void deviceRestarted();
     int rate() const { return rate_; }
 
 private:
@@ -66,6 +72,7 @@ private:
     std::map<int, std::unique_ptr<Sound>> sounds_;
     int nextId_ = 1;
     std::int64_t deviceFrame_ = 0;
+    std::int64_t quiet_ = 0;
     SpeechFeed speech_;
 };
 

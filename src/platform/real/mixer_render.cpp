@@ -60,8 +60,13 @@ bool Mixer::mixBlock(float* out, int frames, std::int64_t first) {
     bool hadSpeech = speech_.hasSamples();
     int spoken = speech_.mixInto(out, frames, first);
     bool ended = hadSpeech && spoken < frames;
-    for (auto& [id, sound] : sounds_)
-        if (sound->playing && mixSound(*sound, out, frames, first)) ended = true;
+    bool sounding = spoken > 0;
+    for (auto& [id, sound] : sounds_) {
+        if (!sound->playing) continue;
+        sounding = true;
+        if (mixSound(*sound, out, frames, first)) ended = true;
+    }
+    quiet_ = sounding ? 0 : quiet_ + frames;
     return ended;
 }
 
@@ -72,6 +77,19 @@ bool Mixer::render(float* out, int frames, std::int64_t now) {
     bool ended = mixBlock(out, frames, deviceFrame_);
     deviceFrame_ += frames;
     return ended;
+}
+
+std::int64_t Mixer::quietFrames() {
+    if (speech_.hasSamples()) return 0;
+    std::lock_guard lock(mutex_);
+    for (auto& [id, sound] : sounds_)
+        if (sound->playing) return 0;
+    return quiet_;
+}
+
+void Mixer::deviceRestarted() {
+    std::lock_guard lock(mutex_);
+    clock_.restart();
 }
 
 bool Mixer::speechAudible(std::int64_t now) {

@@ -22,9 +22,11 @@ SdlPlatform::SdlPlatform() {
 SdlPlatform::~SdlPlatform() { shutdown(); }
 
 // Without a sound card the game still runs: sound calls fail and speech is
-// silent.
+// silent. espeak-ng starts before our stream does: its start opens a stream
+// of its own on the sound server, which made ours run dry while it was young.
 void SdlPlatform::openAudio() {
     if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return;
+    startSynthesiser();
     try {
         audio_ = std::make_unique<AudioOutput>(wakeEvent_);
     } catch (const Failure&) {

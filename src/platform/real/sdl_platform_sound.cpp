@@ -58,6 +58,7 @@ void SdlPlatform::setPan(int id, int hundredthsDb) { soundsFor(id).setPan(id, hu
 
 void SdlPlatform::play(int id, int loopFlag) {
     soundsFor(id).play(id, loopFlag != 0);
+    audio_->wake();
     pacer_.active();
 }
 
@@ -77,6 +78,7 @@ void SdlPlatform::beep() {
     if (beepId_ == 0) beepId_ = mixer.add(toneWave(880, 100, mixer.rate()));
     mixer.setPosition(beepId_, 0);
     mixer.play(beepId_, false);
+    audio_->wake();
     pacer_.active();
 }
 

@@ -59,6 +59,7 @@ void SdlPlatform::speak(const std::string& text, int flag) {
     }
     if (!speech_->ready()) return;
     if (!voiceMade_) createVoice();
+    audio_->wake();
     speech_->say(text);
     // Waits without turning the event loop: keys stay queued for later.
     while (flag == 0 && runningState() != 0) std::this_thread::sleep_for(std::chrono::milliseconds(1));

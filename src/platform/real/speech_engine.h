@@ -19,6 +19,11 @@
 
 namespace platform::real {
 
+// Starts espeak-ng for the whole process, once, on the calling thread; its
+// sample rate, or 0 when it cannot start. An engine made later uses it as it
+// is.
+int startSynthesiser();
+
 class SpeechEngine {
 public:
     SpeechEngine(SpeechFeed& feed, int outputRate);

@@ -1,10 +1,11 @@
 // The speech thread: every call into espeak-ng happens here.
 #include <espeak-ng/speak_lib.h>
 
-#include <atomic>
+#include <algorithm>
 #include <chrono>
 #include <clocale>
 #include <cstdlib>
+#include <mutex>
 
 #include "platform/real/speech_engine.h"
 
@@ -27,20 +28,34 @@ int synthCallback(short* wav, int n, espeak_EVENT* events) {
 
 }  // namespace
 
-// espeak-ng is started once per process (it cannot be shut down, see run());
-// an engine made later reuses it from its own thread, never alongside another.
+// espeak-ng is started once per process (it cannot be shut down, see run()).
 // Starting it switches the whole process to a UTF-8 character type, which
 // would change how the window's title is stored, among other things: the
-// process keeps its own, and only this thread reads characters as UTF-8.
+// process keeps its own, and only the thread that starts it, and later the
+// engine's thread, read characters as UTF-8.
+int startSynthesiser() {
+    static std::mutex once;
+    static int rate = 0;
+    std::lock_guard lock(once);
+    if (rate > 0) return rate;
+    locale_t utf8 = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
+    locale_t before = utf8 ? uselocale(utf8) : nullptr;
+    std::string global = setlocale(LC_CTYPE, nullptr);
+    rate = std::max(espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, kChunkMs, nullptr, 0), 0);
+    setlocale(LC_CTYPE, global.c_str());
+    if (utf8) {
+        uselocale(before);
+        freelocale(utf8);
+    }
+    return rate;
+}
+
+// An engine made after another reuses espeak-ng from its own thread, never
+// alongside the other.
 bool SpeechEngine::start() {
-    static std::atomic<int> rate{0};
     utf8_ = newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr);
     if (utf8_) uselocale(utf8_);
-    if (rate <= 0) {
-        std::string before = setlocale(LC_CTYPE, nullptr);
-        rate = espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, kChunkMs, nullptr, 0);
-        setlocale(LC_CTYPE, before.c_str());
-    }
+    int rate = startSynthesiser();
     if (rate <= 0) return false;
     espeak_SetSynthCallback(synthCallback);
     resampler_ = std::make_unique<Resampler>(rate, outputRate_);

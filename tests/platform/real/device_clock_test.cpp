@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 
 #include "platform/real/device_clock.h"
@@ -56,6 +57,22 @@ TEST(DeviceClock, SmallLatenessIsJitterNotAStall) {
     const double late = 48;   // one millisecond
     for (int k = 60; k < 70; ++k) clock.handedOut(k * 256, 256, at(k * 256 + late));
     EXPECT_NEAR(clock.heardFrame(at(69 * 256 + late)), 69 * 256 + late - 256, 0.01);
+}
+
+// The stream stopped after a quiet stretch and starts again much later: what
+// was handed out before counts as heard, and the new requests alone place
+// the listener.
+TEST(DeviceClock, ARestartedStreamIsPlacedByItsNewRequestsAlone) {
+    DeviceClock clock(48000, 256);
+    for (int k = 0; k < 60; ++k) clock.handedOut(k * 256, 256, at(k * 256));
+    clock.restart();
+    const double later = 5 * 48000;
+    EXPECT_EQ(clock.heardFrame(at(later)), 60 * 256);
+    EXPECT_EQ(clock.timeOfFrame(60 * 256 + 10), std::numeric_limits<std::int64_t>::max());
+    clock.handedOut(60 * 256, 256, at(later));
+    EXPECT_EQ(clock.heardFrame(at(later + 100)), 60 * 256);
+    EXPECT_NEAR(clock.heardFrame(at(later + 300)), 60 * 256 + 300 - 256, 0.01);
+    EXPECT_NEAR(double(clock.timeOfFrame(60 * 256 + 100)), double(at(later + 356)), 1.0);
 }
 
 }  // namespace

@@ -215,4 +215,55 @@ TEST_F(MixerTest, RenderReportsWhatRanOut) {
     EXPECT_EQ(mixer.nextEndAfter(kStart), heardAt(kBlock + 100));
 }
 
+// The stream may stop once the output has been silent for a while: silence
+// is counted in frames, and any sound playing or speech waiting ends it.
+TEST_F(MixerTest, QuietCountsTheSilentBlocksSinceTheLastSound) {
+    render();
+    render();
+    EXPECT_EQ(mixer.quietFrames(), 2 * kBlock);
+    int id = mixer.add(rampWave(100));
+    EXPECT_EQ(mixer.quietFrames(), 2 * kBlock);
+    mixer.play(id, false);
+    EXPECT_EQ(mixer.quietFrames(), 0);
+    render();
+    EXPECT_EQ(mixer.quietFrames(), 0);
+    render();
+    EXPECT_EQ(mixer.quietFrames(), kBlock);
+    int looped = mixer.add(rampWave(100));
+    mixer.play(looped, true);
+    mixer.setVolume(looped, -10000);
+    render();
+    EXPECT_EQ(mixer.quietFrames(), 0);
+    mixer.stop(looped, timeOfBlock(blocks));
+    render();
+    EXPECT_EQ(mixer.quietFrames(), kBlock);
+    std::vector<float> words(10, 0.5f);
+    mixer.speech().push(mixer.speech().generation(), words.data(), words.size());
+    EXPECT_EQ(mixer.quietFrames(), 0);
+    render();
+    render();
+    EXPECT_EQ(mixer.quietFrames(), kBlock);
+}
+
+// After a restart the device asks again from where it stopped, much later.
+TEST_F(MixerTest, ARestartedDeviceTellsPositionsAndEndsFromItsNewStart) {
+    int id = mixer.add(rampWave(4000));
+    mixer.play(id, false);
+    mixer.stop(id, timeOfBlock(0));
+    mixer.setPosition(id, 2 * 100);
+    render();
+    mixer.deviceRestarted();
+    const long later = 500;
+    blocks = later;
+    mixer.play(id, false);
+    EXPECT_EQ(mixer.position(id, timeOfBlock(later)).play, 2 * 100);
+    // The one block handed out before counts as the first; the device now
+    // asks for device frame 480 at the time of block 500.
+    mixer.render(out.data(), kBlock, timeOfBlock(later));
+    EXPECT_NEAR(left(0), rampValue(100), 1e-4);
+    std::int64_t heard = timeOfBlock(later) + std::int64_t((kBlock + 50.5) * 1e9 / kRate);
+    EXPECT_EQ(mixer.position(id, heard).play, 2 * 150);
+    EXPECT_EQ(mixer.status(id, heard), 1);
+}
+
 }  // namespace
