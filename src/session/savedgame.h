@@ -13,7 +13,9 @@ std::string savepath();
 // the program through leavegame, which finds savedexit at 1.
 void savegame();
 // The first step of every round: resumed is 1 when the file holds a saved
-// game, whose figures are then restored and whose course is loaded.
+// game, whose figures are then restored and whose course is loaded. A file
+// whose first value is not 1, that ends before its last value or that names
+// a hole outside 1..18 holds none, and nothing of it is restored.
 void loadgame();
 // The mark of no saved game: the file holds the single value 0.
 void clearsave();

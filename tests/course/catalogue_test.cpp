@@ -4,6 +4,7 @@
 // tags and texts, and the limits that keep a damaged file harmless.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <limits>
@@ -119,6 +120,18 @@ TEST_F(Catalogue, OnlyTheFilesOfThePlayersFolderCount) {
     file("elsewhere/golfthere.gcf", coursefiles::course18(false));
     build();
     EXPECT_EQ(customFiles(), std::vector<std::string>{"golfhere.gcf"});
+}
+
+TEST_F(Catalogue, BeyondItsSlotsTheCatalogueTakesNoMoreAndKeepsTheRandomCourseLast) {
+    const std::string bytes = coursefiles::course18(false);
+    for (int i = 0; i < 2230; ++i) file("golf" + std::to_string(10000 + i) + ".gcf", bytes);
+    build();
+    EXPECT_EQ(nocs, 2222);
+    EXPECT_EQ(course::cs.cname[2222], " Random golf course no rating ");
+    EXPECT_EQ(course::cs.cfile[2222], "");
+    auto custom = customFiles();
+    EXPECT_EQ(custom.size(), 2215u);
+    EXPECT_TRUE(std::is_sorted(custom.begin(), custom.end()));
 }
 
 // ---- the loader
