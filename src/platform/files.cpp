@@ -115,14 +115,28 @@ void syncFolder(const std::string& dir) {
     ::close(fd);
 }
 
+void clearLeftovers(const std::string& dir, const std::string& prefix) {
+    std::error_code ec;
+    fs::directory_iterator it(dir, ec), end;
+    for (; !ec && it != end; it.increment(ec)) {
+        std::string name = it->path().filename().string();
+        if (name.size() == prefix.size() + 6 && name.compare(0, prefix.size(), prefix) == 0) {
+            std::error_code rm;
+            fs::remove(it->path(), rm);
+        }
+    }
+}
+
 void replace(const std::string& full, const std::string& path, const std::string& data) {
     size_t slash = full.find_last_of('/');
     std::string dir = slash == std::string::npos ? "." : full.substr(0, slash);
     if (dir.empty()) dir = "/";
     std::string leaf = slash == std::string::npos ? full : full.substr(slash + 1);
     // A leading point keeps a left-over new file out of every pattern the
-    // game lists.
-    std::string tmp = dir + "/." + leaf + ".new-XXXXXX";
+    // game lists; what a writer killed before its rename left goes now.
+    std::string prefix = "." + leaf + ".new-";
+    clearLeftovers(dir, prefix);
+    std::string tmp = dir + "/" + prefix + "XXXXXX";
     int fd = ::mkstemp(tmp.data());
     if (fd < 0) fail("write", path);
     struct stat old{};

@@ -103,6 +103,11 @@ TEST_F(SafeWrite, AWriterKilledHalfWayLeavesTheOldFile) {
             }
         }
     }
+    EXPECT_EQ(entries(dir), 2) << "the second writer cleared what the first left, then left its own";
+    std::ofstream(dir + "/.golfgame.sav.keep", std::ios::binary) << "not ours";
+    files::write("", path, "next", false);
+    EXPECT_EQ(slurp(path), "next");
+    EXPECT_EQ(entries(dir), 2) << "the next replacement clears what they left, and only that";
 }
 
 // A real full disk where the machine lets a test mount a small tmpfs of its
