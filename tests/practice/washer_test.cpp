@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <string>
 
 #include "input/keys.h"
@@ -11,6 +12,8 @@
 #include "round/driver.h"
 #include "round/state.h"
 #include "round/inplay_support.h"
+#include "round/session.h"
+#include "session/savedgame.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
 #include "practice/practice_support.h"
@@ -52,41 +55,53 @@ TEST(BallWasher, TheWasherRunsOverAQuietCrowdUntilAKey) {
 }
 
 // The length of a 1 wood at full power off the first tee of a round begun
-// with the ball washed or not, the generator seeded with seed.
-int drive(int washed, std::uint64_t seed) {
-    int yds = -1, dirty = -1;
+// with the ball washed or not, the generator seeded with seed. A resumed
+// round takes up a game saved at the first tee with the other ball.
+int drive(int washed, std::uint64_t seed, bool resumed) {
+    int yds = -1, dirty = -1, wasresumed = -1;
+    std::string docs = simtest::tempDir();
     auto r = runInProcess(std::string("expect \"Select Your Club\"\n") + inplay::kDrive, [&] {
         inplay::freshRound(1);
+        play::rs.dirty = washed;   // the other ball, as a saved game might hold it
+        if (resumed) {
+            play::rs.total = 5;    // the par of the first hole
+            platform::os().makeDir(play::kp());
+            platform::os().writeFile(session::savepath(), session::savedform());
+        }
         play::rs.washed = washed;
-        play::rs.dirty = washed;   // the other value, as a saved game might have left it
         platform::reseed(seed);
         try {
             play::playround();
         } catch (...) {
-            yds = play::rs.yds, dirty = play::rs.dirty;
+            yds = play::rs.yds, dirty = play::rs.dirty, wasresumed = play::rs.resumed;
             throw;
         }
-    });
+    }, docs);
+    std::filesystem::remove_all(docs);
     EXPECT_EQ(r.code, 0) << r.dump();
     EXPECT_EQ(dirty, 1 - washed);
+    EXPECT_EQ(wasresumed, resumed ? 1 : 0);
     return yds;
 }
 
-TEST(BallWasher, AWashedBallGoesFurtherInTheRoundsBehindIt) {
-    int shortest[2] = {1000, 1000}, longest[2] = {0, 0};
-    for (std::uint64_t seed = 1; seed <= 40; ++seed) {
-        for (int washed : {0, 1}) {
-            int yds = drive(washed, seed);
-            shortest[washed] = std::min(shortest[washed], yds);
-            longest[washed] = std::max(longest[washed], yds);
+TEST(BallWasher, AWashedBallGoesFurtherInTheRoundsBehindItResumedOrNot) {
+    for (bool resumed : {false, true}) {
+        SCOPED_TRACE(resumed);
+        int shortest[2] = {1000, 1000}, longest[2] = {0, 0};
+        for (std::uint64_t seed = 1; seed <= 40; ++seed) {
+            for (int washed : {0, 1}) {
+                int yds = drive(washed, seed, resumed);
+                shortest[washed] = std::min(shortest[washed], yds);
+                longest[washed] = std::max(longest[washed], yds);
+            }
         }
+        EXPECT_GE(shortest[1], 291);
+        EXPECT_LE(longest[1], 311);
+        EXPECT_GT(longest[1], 308) << "beyond what a dirty ball can reach";
+        EXPECT_GE(shortest[0], 288);
+        EXPECT_LE(longest[0], 308);
+        EXPECT_LT(shortest[0], 291) << "short of what a washed ball can reach";
     }
-    EXPECT_GE(shortest[1], 291);
-    EXPECT_LE(longest[1], 311);
-    EXPECT_GT(longest[1], 308) << "beyond what a dirty ball can reach";
-    EXPECT_GE(shortest[0], 288);
-    EXPECT_LE(longest[0], 308);
-    EXPECT_LT(shortest[0], 291) << "short of what a washed ball can reach";
 }
 
 }  // namespace
