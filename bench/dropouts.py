@@ -42,6 +42,12 @@ def frames_of(t0, t1, total, returned):
     return int(np.ceil((t0 - origin) * RATE / 1e9)), int((t1 - origin) * RATE / 1e9)
 
 
+def sounding(samples, first, last):
+    """Seconds from the first sound to the last in frames [first, last)."""
+    loud = np.nonzero(np.abs(samples[max(first, 0):max(last, 0)]).max(axis=1, initial=0) > LOUD)[0]
+    return (loud[-1] - loud[0]) / RATE if len(loud) else 0.0
+
+
 def gaps(samples, first, last):
     """Lengths of the silent runs inside sound, in frames [first, last)."""
     first, last = max(first, 0), min(last, len(samples))
@@ -92,21 +98,24 @@ def main():
     starts = [line.split() for line in open(sys.argv[2])]
     log = open(sys.argv[3], errors="replace").read().splitlines()
     summary = {}
-    print(f"{'build':40} start  dropouts  longest  underruns")
+    print(f"{'build':40} start  sound s  dropouts  longest  underruns")
     for n, (build, t0, t1, line0, line1) in enumerate(starts):
         first, last = frames_of(int(t0), int(t1), total, returned)
         g = gaps(samples, first, last)
         u = underruns(log, int(line0), int(line1))
-        s = summary.setdefault(build, [0, 0, 0, 0])
+        heard = sounding(samples, first, last)
+        s = summary.setdefault(build, [0, 0, 0, 0, 0.0])
         s[0] += 1
         s[1] += len(g)
         s[2] += 1 if g else 0
         s[3] += u
+        s[4] += heard
         longest = f"{max(g):5d} fr" if g else "     -  "
-        print(f"{build[-40:]:40} {n + 1:5d}  {len(g):8d}  {longest}  {u:9d}")
-    for build, (runs, dropouts, dropped, under) in summary.items():
-        print(f"{build}: {dropouts} dropouts in {runs} starts ({dropped} starts with any),"
-              f" {under} underruns reported")
+        print(f"{build[-40:]:40} {n + 1:5d}  {heard:7.2f}  {len(g):8d}  {longest}  {u:9d}")
+    for build, (runs, dropouts, dropped, under, heard) in summary.items():
+        rate = f"{dropouts / heard:.1f}" if heard > 0 else "-"
+        print(f"{build}: {dropouts} dropouts in {runs} starts ({dropped} starts with any; {rate} a second of"
+              f" sound), {under} underruns reported")
     return 0
 
 

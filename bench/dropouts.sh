@@ -7,7 +7,9 @@
 # sound server reports for the game's stream.
 # usage: bench/dropouts.sh [BUILD_DIR[,BUILD_DIR...]] [STARTS] [SECONDS] [LOAD_COMMAND]
 #   Several build folders, separated by commas, take their starts in turn, so
-#   that all of them are measured under the same conditions.
+#   that all of them are measured under the same conditions. The word "tone"
+#   in the list stands for bench_tone of the first build: a bare SDL stream
+#   with the game's period playing a tone, whose dropouts are the machine's.
 #   SECONDS: how long each start runs (the opening and the name prompt).
 #   LOAD_COMMAND: run in the background for the whole measurement, for
 #   example a parallel build; its process group is stopped at the end.
@@ -19,9 +21,14 @@ STARTS=${2:-10}
 SECONDS_EACH=${3:-8}
 LOAD=${4:-}
 . "$HERE/rig.sh"
-for i in "${!BUILDS[@]}"; do BUILDS[$i]=$(cd "${BUILDS[$i]}" && pwd) || exit 1; done
-BUILD=${BUILDS[0]}
+for i in "${!BUILDS[@]}"; do
+  [ "${BUILDS[$i]}" = tone ] || BUILDS[$i]=$(cd "${BUILDS[$i]}" && pwd) || exit 1
+done
+BUILD=
+for b in "${BUILDS[@]}"; do [ -z "$BUILD" ] && [ "$b" != tone ] && BUILD=$b; done
+[ -n "$BUILD" ] || { echo "name a build folder besides tone"; exit 1; }
 rig_need bench_record
+[[ " ${BUILDS[*]} " == *" tone "* ]] && rig_need bench_tone
 
 RIG_PULSE_DEBUG=1 rig_pulse
 rig_xvfb || exit 1
@@ -42,7 +49,11 @@ for ((i = 0; i < STARTS; i++)); do
   for b in "${BUILDS[@]}"; do
     line0=$(wc -l <"$RIG/pulse.log")
     t0=$(now)
-    (cd "$b/game" && exec env SDL_AUDIODRIVER=pulseaudio ./greenlark) >>"$RIG/game.log" 2>&1 &
+    if [ "$b" = tone ]; then
+      SDL_AUDIODRIVER=pulseaudio "$BUILD/bench/bench_tone" >>"$RIG/game.log" 2>&1 &
+    else
+      (cd "$b/game" && exec env SDL_AUDIODRIVER=pulseaudio ./greenlark) >>"$RIG/game.log" 2>&1 &
+    fi
     game=$!
     sleep "$SECONDS_EACH"
     t1=$(now)
