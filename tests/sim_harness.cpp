@@ -96,7 +96,7 @@ Result runBinary(const std::string& script, const std::vector<std::string>& opti
 namespace {
 
 void runOn(std::istream& in, bool live, const std::function<void()>& program, Result& r, const std::string& docs,
-           const std::string& game) {
+           const std::string& game, std::uint32_t tickStart = 0) {
     captured = &r.lines;
     sim::setSink(capture);
     sim::Runner runner(in, live, 900);
@@ -108,6 +108,7 @@ void runOn(std::istream& in, bool live, const std::function<void()>& program, Re
         sim::Options o;
         o.game = o.cwd = game;
         o.docs = docs;
+        o.tickStart = tickStart;
         sim::SimPlatform p(o, runner);
         platform::install(&p);
         try {
@@ -133,6 +134,13 @@ Result runInProcess(const std::string& script, const std::function<void()>& prog
     Result r;
     std::istringstream in(script);
     runOn(in, false, program, r, docs, game);
+    return r;
+}
+
+Result runInProcessFromTick(std::uint32_t tickStart, const std::string& script, const std::function<void()>& program) {
+    Result r;
+    std::istringstream in(script);
+    runOn(in, false, program, r, "", GREENLARK_GAME_DIR, tickStart);
     return r;
 }
 

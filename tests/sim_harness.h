@@ -2,6 +2,7 @@
 // the same runner and simulated platform around a routine of the game.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <istream>
 #include <string>
@@ -31,6 +32,9 @@ Result runBinary(const std::string& script, const std::vector<std::string>& opti
 // docs folder given (empty: none).
 Result runInProcess(const std::string& script, const std::function<void()>& program,
                     const std::string& docs = "", const std::string& game = GREENLARK_GAME_DIR);
+
+// The same with the platform's tick count starting at tickStart.
+Result runInProcessFromTick(std::uint32_t tickStart, const std::string& script, const std::function<void()>& program);
 
 // The same around a script read from in as it arrives, as greenlark-sim
 // reads "-": r.lines fill while the program runs, so whatever feeds in can

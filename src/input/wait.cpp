@@ -1,9 +1,11 @@
 // The waits every prompt is built from: clearing the key, waiting for one,
 // and the pause in units of 1025 milliseconds.
+#include <algorithm>
 #include <cmath>
 
 #include "input/keys.h"
 #include "platform/platform.h"
+#include "platform/ticks.h"
 
 namespace input {
 
@@ -31,12 +33,18 @@ void getkey() {
 
 void dy(double a) {
     auto& os = platform::os();
-    double t = double(os.tick());
-    double until = t + a * 1025.0;
-    os.dueAt(std::uint32_t(std::floor(until)) + 1);
+    const double span = a * 1025.0;
+    std::uint32_t last = os.tick();
+    os.dueAt(last + std::uint32_t(span > 0 ? std::min(std::floor(span), 2147483647.0) : 0.0) + 1);
+    // The time waited is summed from tick to tick, so the wrap of the tick
+    // count cannot stop the wait or end it early.
+    double waited = 0;
     do {
         os.yield();
-    } while (!(double(os.tick()) > until));
+        std::uint32_t now = os.tick();
+        waited += platform::elapsed(last, now);
+        last = now;
+    } while (!(waited > span));
 }
 
 }  // namespace input

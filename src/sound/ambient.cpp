@@ -7,6 +7,7 @@
 #include "platform/names.h"
 #include "platform/platform.h"
 #include "platform/rnd.h"
+#include "platform/ticks.h"
 #include "sound/bank.h"
 #include "sound/wave_table.h"
 
@@ -17,7 +18,7 @@ Ambient am;
 namespace {
 
 int Int(double x) { return int(std::floor(x)); }
-int now() { return int(platform::os().tick()); }
+std::uint32_t now() { return platform::os().tick(); }
 
 struct FlagRow {
     int Ambient::*flag;
@@ -134,11 +135,11 @@ void startwater() {
 void ambenter() {
     am.ambwait = 1025 + Int(platform::U() * 2050);
     am.nexttick = now() + am.ambwait;
-    platform::os().dueAt(std::uint32_t(am.nexttick + 1));
+    platform::os().dueAt(am.nexttick + 1);
 }
 
 void ambpass() {
-    if (now() > am.nexttick) ambtick();
+    if (platform::later(now(), am.nexttick)) ambtick();
 }
 
 void ambtick() {
@@ -156,7 +157,7 @@ void ambtick() {
     }
     am.ambwait = 1025 + Int(platform::U() * 5250);
     am.nexttick = now() + am.ambwait;
-    platform::os().dueAt(std::uint32_t(am.nexttick + 1));
+    platform::os().dueAt(am.nexttick + 1);
 }
 
 int ambside() { return platform::U() < 0.5 ? -1 : 1; }

@@ -4,6 +4,7 @@
 // the water.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 namespace sound {
@@ -13,7 +14,7 @@ struct Ambient {
     int cow = 0, pig = 0, horse = 0, siren = 0, chicken = 0, turkey = 0, ajaf = 0, airplane = 0;
     int train = 0, cars = 0, parklot = 0, water = 0, swim = 0, deer = 0, santa = 0;
     int namb = 0;       // ambient files found at start-up
-    int nexttick = 0;   // tick after which the next step is due
+    std::uint32_t nexttick = 0;   // tick after which the next step is due
     int ambwait = 0;    // the wait last drawn, ms
     int ambno = 0;      // number of the sound chosen
     std::string ambname;

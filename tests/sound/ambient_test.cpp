@@ -144,6 +144,32 @@ TEST(AmbientScheduler, SilencedSpeechAndRunningSoundsHoldItBack) {
     EXPECT_EQ(r.count("setpan amb"), 1) << r.dump();
 }
 
+// The first sound after a key wait begins comes 1025 to 3074 ms later, also
+// when the tick count passes 2^31 or wraps at 2^32 on the way.
+TEST(AmbientScheduler, TheFirstWaitHoldsAcrossTheTickCountsLimits) {
+    for (std::uint32_t start : {0x7FFFFE00u, 0xFFFFFE00u}) {
+        SCOPED_TRACE(start);
+        std::uint32_t waited = 0;
+        auto r = simtest::runInProcessFromTick(start, "end\n", [&] {
+            sound::bk = sound::Bank{};
+            hole1(1, 1);
+            sound::countamb();
+            auto& os = platform::os();
+            std::uint32_t from = os.tick();
+            sound::ambenter();
+            while (sound::am.ambinit == 0 && os.tick() - from < 10000) {
+                os.yield();
+                sound::ambpass();
+            }
+            waited = os.tick() - from;
+        });
+        ASSERT_EQ(r.code, 0) << r.dump();
+        EXPECT_GT(waited, 1025u);
+        EXPECT_LE(waited, 3076u);
+        EXPECT_EQ(r.count("setpan amb"), 1) << r.dump();
+    }
+}
+
 TEST(AmbientWater, LoopsStartOnTheSideOfTheWater) {
     auto r = runInProcess("end\n", [] {
         sound::bk = sound::Bank{};

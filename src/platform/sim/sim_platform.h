@@ -20,6 +20,9 @@ struct Options {
     std::string date = "11/22/2026";
     double clockStart = 12 * 3600;
     double timeout = 900;
+    // Where the tick count stands at the start; tests use it to cross the
+    // wrap of the 32-bit count. The command line does not set it.
+    std::uint32_t tickStart = 0;
 };
 
 class SimPlatform : public platform::Platform {
@@ -38,7 +41,7 @@ public:
     void setKeyHandler(std::function<void(int)> onKey) override { onKey_ = std::move(onKey); }
     void setCloseHandler(std::function<void()> onClose) override { onClose_ = std::move(onClose); }
     void yield() override;
-    std::uint32_t tick() override { return std::uint32_t(clock_); }
+    std::uint32_t tick() override { return std::uint32_t(opt_.tickStart + clock_); }
     void dueAt(std::uint32_t) override {}
     void messageBox(const std::string& text) override;
     void beep() override;
