@@ -1,7 +1,7 @@
 # Installs the Debian packages the build and the tests need, when missing.
 # Sourced by scripts/play and scripts/test.
 greenlark_deps() {
-    local want=(build-essential cmake ninja-build pkg-config libsdl2-dev libespeak-ng-dev espeak-ng-data
+    local want=(build-essential cmake ninja-build pkg-config libsdl2-dev libespeak-ng-dev espeak-ng-data libspeechd-dev
                 libgtest-dev googletest xdg-user-dirs "$@")
     local missing=()
     for p in "${want[@]}"; do

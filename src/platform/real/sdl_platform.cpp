@@ -17,6 +17,8 @@ SdlPlatform::SdlPlatform() {
     sdlUp_ = true;
     wakeEvent_ = SDL_RegisterEvents(1);
     openAudio();
+    // Only a running speech-dispatcher is asked, and off this thread.
+    if (dispatcherReachable()) dispatcherSearch_ = std::async(std::launch::async, &Dispatcher::open);
 }
 
 SdlPlatform::~SdlPlatform() { shutdown(); }
@@ -36,6 +38,9 @@ void SdlPlatform::openAudio() {
 }
 
 void SdlPlatform::shutdown() {
+    if (dispatcherSearch_.valid()) dispatcherSearch_.wait();
+    dispatcherSearch_ = {};
+    dispatcher_.reset();
     speech_.reset();
     audio_.reset();
     if (window_) SDL_DestroyWindow(window_);

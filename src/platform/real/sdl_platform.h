@@ -5,11 +5,13 @@
 #include <SDL2/SDL.h>
 
 #include <functional>
+#include <future>
 #include <memory>
 #include <string>
 
 #include "platform/platform.h"
 #include "platform/real/audio_output.h"
+#include "platform/real/dispatcher.h"
 #include "platform/real/pacer.h"
 #include "platform/real/speech_engine.h"
 
@@ -82,6 +84,10 @@ private:
     // device is not open or the id is not the game's.
     Mixer& soundsFor(int id);
     void applyVoice();
+    // speech-dispatcher, once its search has ended; nullptr when it is not
+    // there.
+    Dispatcher* dispatcher();
+    bool onDispatcher() { return dispatcherVoice_ >= 0 && dispatcher(); }
 
     SDL_Window* window_ = nullptr;
     std::string caption_;
@@ -100,6 +106,11 @@ private:
     int voiceIndex_ = 0;
     int rate_ = 0;
     int volume_ = 100;
+
+    std::future<std::unique_ptr<Dispatcher>> dispatcherSearch_;
+    std::unique_ptr<Dispatcher> dispatcher_;
+    bool dispatcherGivenUp_ = false;
+    int dispatcherVoice_ = -1;   // the voice in use is speech-dispatcher's
 };
 
 }  // namespace platform::real

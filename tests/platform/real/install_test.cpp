@@ -60,12 +60,14 @@ TEST_F(Installed, EverythingLandsInItsPlace) {
 }
 
 TEST_F(Installed, DesktopFilesPassTheirValidators) {
-    if (realtest::onPath("desktop-file-validate"))
+    if (realtest::onPath("desktop-file-validate")) {
         EXPECT_EQ(sh("desktop-file-validate " + shq((usr / "share/applications/org.greenlark.Greenlark.desktop").string())), 0);
-    if (realtest::onPath("appstreamcli"))
+    }
+    if (realtest::onPath("appstreamcli")) {
         EXPECT_EQ(sh("appstreamcli validate --no-net " +
                      shq((usr / "share/metainfo/org.greenlark.Greenlark.metainfo.xml").string()) + " >/dev/null"),
                   0);
+    }
     if (realtest::onPath("man")) {
         std::string page = (usr / "share/man/man6/greenlark.6").string();
         EXPECT_EQ(sh("MANWIDTH=80 man -l " + shq(page) + " 2>&1 | grep -q -- '--journal'"), 0)
