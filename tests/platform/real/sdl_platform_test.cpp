@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -148,15 +149,20 @@ TEST_F(SdlPlatformTest, CloseCommandRunsTheCloseHandlerInAYield) {
 TEST_F(SdlPlatformTest, MessageBoxWaitsForItsButton) {
     if (!realtest::onPath("xwininfo")) GTEST_SKIP() << "needs xwininfo";
     std::string box;
+    std::atomic<bool> returned{false};
+    // On a busy machine the box can take a while to come up: look for it,
+    // and press its button, until the call has returned.
     std::thread closer([&] {
-        for (int i = 0; i < 250 && box.empty(); ++i) {
-            for (const auto& id : x->allNamed(kCaption))
-                if (std::stoul(id, nullptr, 16) != std::stoul(window)) box = id;
+        for (int i = 0; i < 3000 && !returned; ++i) {
+            if (box.empty())
+                for (const auto& id : x->allNamed(kCaption))
+                    if (std::stoul(id, nullptr, 16) != std::stoul(window)) box = id;
+            if (!box.empty() && i % 25 == 0) x->run("xdotool key --window " + box + " Return");
             std::this_thread::sleep_for(20ms);
         }
-        x->run("xdotool key --window " + box + " Return");
     });
     p->messageBox("Hello from the check.");
+    returned = true;
     closer.join();
     EXPECT_FALSE(box.empty());
     EXPECT_TRUE(x->allNamed(kCaption).size() == 1) << "the box is gone";
