@@ -1,4 +1,3 @@
-#include <bit>
 #include <cmath>
 #include <cstdint>
 
@@ -25,7 +24,7 @@ int parOf(int yards) {
 }  // namespace
 
 void setrandomcourse() {
-    platform::reseed(std::bit_cast<std::uint64_t>(platform::os().timeOfDay()));
+    platform::reseedFromClock();
     for (int hole = 1; hole <= 18; ++hole) {
         int* h = cs.H[hole];
         h[2] = draw(555, 125);

@@ -56,6 +56,10 @@ public:
     virtual void yield() = 0;
     // Milliseconds from a monotonic clock.
     virtual std::uint32_t tick() = 0;
+    // A seed for the random numbers, drawn from the clock. Every reseed of
+    // the game comes through here, so that a platform can record the seeds
+    // of a game and give them back when it is played again.
+    virtual std::uint64_t clockSeed() = 0;
     // A hint that nothing is due before tick() reaches ms; the real yield may
     // sleep until then or until an event comes. Purely an optimisation.
     virtual void dueAt(std::uint32_t ms) = 0;

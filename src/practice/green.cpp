@@ -55,7 +55,7 @@ std::string greendistance(int feet) {
 void newball() {
     pr.pgf1 = 1;
     pr.pgf2 = 1;
-    platform::reseed(platform::os().tick());
+    platform::reseedFromClock();
     pr.practicefeet = std::floor(platform::U() * 40) + 1;
 }
 

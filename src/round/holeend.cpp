@@ -19,7 +19,7 @@ void endhole() {
     rs.stks += rs.stk;
     platform::attempt(loggit);
     rs.hole += 1;
-    platform::reseed(platform::os().tick());
+    platform::reseedFromClock();
     input::dy(0.5);
     rs.f1state = 4;
     rs.virgin = 1;

@@ -50,7 +50,7 @@ bool wavesPass() {
 void roundOnFirstCourse(const std::string& name) {
     if (course::cs.locs[1].empty()) course::fillLocs();
     play::rs.nocs = course::GetCors(play::kp());
-    platform::reseed(platform::os().tick());
+    platform::reseedFromClock();
     play::rs.pn = name;
     play::rs.c = 1;
     play::playround();

@@ -61,7 +61,7 @@ bool abPlaying() {
 
 void choose() {
     do {
-        am.ambno = 1 + Int(platform::U() * am.namb);
+        am.ambno = 1 + Int(platform::ambientU() * am.namb);
         int* flag = ambflag(am.ambno);
         if (!flag || *flag != 0) break;
     } while (true);
@@ -74,9 +74,9 @@ void placeAndPlay() {
         am.side = 1;
         if (*flag == 1) am.side = -1;
         if (*flag > 2) am.side = ambside();
-        am.pan = (800 + Int(platform::U() * 100)) * am.side;
+        am.pan = (800 + Int(platform::ambientU() * 100)) * am.side;
     } else {
-        am.pan = Int(platform::U() * 1200) - 600;
+        am.pan = Int(platform::ambientU() * 1200) - 600;
         if (platform::lower(am.ambname) == "amb11") am.pan = 0;
     }
     platform::attempt([] {
@@ -133,7 +133,7 @@ void startwater() {
 }
 
 void ambenter() {
-    am.ambwait = 1025 + Int(platform::U() * 2050);
+    am.ambwait = 1025 + Int(platform::ambientU() * 2050);
     am.nexttick = now() + am.ambwait;
     platform::os().dueAt(am.nexttick + 1);
 }
@@ -155,11 +155,11 @@ void ambtick() {
         choose();
         if (platform::attempt([] { bk.ab = loadbuffer(am.ambname, bk.wavol, true); })) placeAndPlay();
     }
-    am.ambwait = 1025 + Int(platform::U() * 5250);
+    am.ambwait = 1025 + Int(platform::ambientU() * 5250);
     am.nexttick = now() + am.ambwait;
     platform::os().dueAt(am.nexttick + 1);
 }
 
-int ambside() { return platform::U() < 0.5 ? -1 : 1; }
+int ambside() { return platform::ambientU() < 0.5 ? -1 : 1; }
 
 }  // namespace sound

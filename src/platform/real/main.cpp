@@ -1,17 +1,46 @@
 // The real program: the SDL2 platform under the game.
+//   greenlark [--journal FILE]
+// --journal writes the game into FILE as a greenlark-sim script.
 #include <cstdio>
+#include <cstring>
 #include <exception>
+#include <filesystem>
+#include <string>
 
 #include "platform/real/sdl_platform.h"
 #include "platform/real/system_info.h"
 #include "session/entry.h"
 
-int main() {
+namespace {
+
+// The journal's file, empty for none; false for arguments it cannot read.
+bool readArgs(int argc, char** argv, std::string& journal) {
+    for (int i = 1; i < argc; ++i) {
+        if (std::strcmp(argv[i], "--journal") != 0 || i + 1 >= argc || !journal.empty()) return false;
+        journal = argv[++i];
+    }
+    return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::string journal;
+    if (!readArgs(argc, argv, journal) || (argc > 1 && journal.empty())) {
+        std::fprintf(stderr, "usage: greenlark [--journal FILE]\n");
+        return 2;
+    }
+    // A journal named from where the program was started.
+    if (!journal.empty()) journal = std::filesystem::absolute(journal).string();
     // The game starts in its data folder, wherever it was started from: the
     // wave checks and the launcher look in the working folder.
     platform::real::startInDataFolder();
     try {
         platform::real::SdlPlatform sdl;
+        if (!journal.empty() && !sdl.journalTo(journal)) {
+            std::fprintf(stderr, "greenlark: cannot write the journal %s\n", journal.c_str());
+            return 2;
+        }
         platform::install(&sdl);
         try {
             session::gamemain();

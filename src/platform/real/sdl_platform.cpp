@@ -38,6 +38,7 @@ void SdlPlatform::openAudio() {
 }
 
 void SdlPlatform::shutdown() {
+    journal_.finish();
     if (dispatcherSearch_.valid()) dispatcherSearch_.wait();
     dispatcherSearch_ = {};
     dispatcher_.reset();
@@ -81,9 +82,11 @@ void SdlPlatform::deliver(const SDL_Event& e) {
         int key = virtualKey(e.key.keysym.scancode, e.key.keysym.sym);
         if (!key) return;
         pacer_.active();
+        if (journal_.on()) journal_.key(key, playingIndicator());
         if (onKey_) onKey_(key);
     } else if (e.type == SDL_QUIT) {
         pacer_.active();
+        journal_.closed();
         if (onClose_) onClose_();
     } else if (e.type == wakeEvent_) {
         pacer_.active();

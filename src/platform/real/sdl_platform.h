@@ -7,11 +7,13 @@
 #include <functional>
 #include <future>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/platform.h"
 #include "platform/real/audio_output.h"
 #include "platform/real/dispatcher.h"
+#include "platform/real/journal.h"
 #include "platform/real/pacer.h"
 #include "platform/real/speech_engine.h"
 
@@ -26,12 +28,16 @@ public:
 
     // Releases the voice, the audio and the window. Safe to call twice.
     void shutdown();
+    // Writes the game into a journal from here on; false if the file cannot
+    // be written.
+    bool journalTo(const std::string& path) { return journal_.open(path); }
 
     void showWindow(const std::string& caption) override;
     void setKeyHandler(std::function<void(int)> onKey) override { onKey_ = std::move(onKey); }
     void setCloseHandler(std::function<void()> onClose) override { onClose_ = std::move(onClose); }
     void yield() override;
     std::uint32_t tick() override { return SDL_GetTicks(); }
+    std::uint64_t clockSeed() override;
     void dueAt(std::uint32_t ms) override { pacer_.dueAt(ms); }
     void messageBox(const std::string& text) override;
     void beep() override;
@@ -88,6 +94,8 @@ private:
     // there.
     Dispatcher* dispatcher();
     bool onDispatcher() { return dispatcherVoice_ >= 0 && dispatcher(); }
+    // The power indicator playing now, if one is, for the journal.
+    std::optional<Journal::Indicator> playingIndicator();
 
     SDL_Window* window_ = nullptr;
     std::string caption_;
@@ -111,6 +119,7 @@ private:
     std::unique_ptr<Dispatcher> dispatcher_;
     bool dispatcherGivenUp_ = false;
     int dispatcherVoice_ = -1;   // the voice in use is speech-dispatcher's
+    Journal journal_;
 };
 
 }  // namespace platform::real

@@ -14,6 +14,7 @@ void SdlPlatform::openSoundDevice() {
 void SdlPlatform::closeSoundDevice() {
     if (audio_ && soundOpen_) {
         audio_->mixer().releaseAll();
+        journal_.releasedAll();
         beepId_ = 0;
     }
     soundOpen_ = false;
@@ -33,13 +34,19 @@ Mixer& SdlPlatform::soundsFor(int id) {
 
 int SdlPlatform::createBuffer(const std::string& path) {
     Mixer& mixer = openMixer();
-    auto wave = parseWave(files::read("", path));
+    std::string bytes = files::read("", path);
+    auto wave = parseWave(bytes);
     if (!wave) throw Failure("not a wave file we can play: " + path);
     pacer_.active();
-    return mixer.add(*wave);
+    int id = mixer.add(*wave);
+    journal_.made(id, path, long(bytes.size()));
+    return id;
 }
 
-void SdlPlatform::releaseBuffer(int id) { soundsFor(id).release(id); }
+void SdlPlatform::releaseBuffer(int id) {
+    soundsFor(id).release(id);
+    journal_.released(id);
+}
 
 int SdlPlatform::getFrequency(int id) { return soundsFor(id).frequency(id); }
 
@@ -50,14 +57,21 @@ void SdlPlatform::setCurrentPosition(int id, long bytes) {
     pacer_.active();
 }
 
-CursorPair SdlPlatform::getCurrentPosition(int id) { return soundsFor(id).position(id, monotonicNs()); }
+CursorPair SdlPlatform::getCurrentPosition(int id) {
+    CursorPair at = soundsFor(id).position(id, monotonicNs());
+    journal_.read(id, at.play);
+    return at;
+}
 
 void SdlPlatform::setVolumeDb(int id, int hundredthsDb) { soundsFor(id).setVolume(id, hundredthsDb); }
 
 void SdlPlatform::setPan(int id, int hundredthsDb) { soundsFor(id).setPan(id, hundredthsDb); }
 
 void SdlPlatform::play(int id, int loopFlag) {
-    soundsFor(id).play(id, loopFlag != 0);
+    Mixer& mixer = soundsFor(id);
+    bool starts = journal_.on() && mixer.status(id, monotonicNs()) == 0;
+    mixer.play(id, loopFlag != 0);
+    if (starts) journal_.played(id, loopFlag != 0);
     audio_->wake();
     pacer_.active();
 }
@@ -67,6 +81,26 @@ int SdlPlatform::getStatus(int id) { return soundsFor(id).status(id, monotonicNs
 void SdlPlatform::stop(int id) {
     soundsFor(id).stop(id, monotonicNs());
     pacer_.active();
+}
+
+std::optional<Journal::Indicator> SdlPlatform::playingIndicator() {
+    if (!audio_ || !soundOpen_) return std::nullopt;
+    Mixer& mixer = audio_->mixer();
+    std::int64_t now = monotonicNs();
+    for (int id : journal_.indicators()) {
+        std::optional<Journal::Indicator> found;
+        attempt([&] {
+            if (mixer.status(id, now) == statusPlaying) found = Journal::Indicator{id, mixer.position(id, now).play};
+        });
+        if (found) return found;
+    }
+    return std::nullopt;
+}
+
+std::uint64_t SdlPlatform::clockSeed() {
+    auto seed = std::uint64_t(monotonicNs());
+    journal_.seed(seed);
+    return seed;
 }
 
 // Our buffers live in memory and are never lost.

@@ -87,7 +87,8 @@ void SdlPlatform::setVolume(int volume) {
 
 void SdlPlatform::speak(const std::string& text, int flag) {
     pacer_.active();
-    if (flag == 2) {
+    if (flag != speakPurge) journal_.spoke(text, flag);
+    if (flag == speakPurge) {
         if (speech_) speech_->silence();
         if (onDispatcher()) dispatcher_->silence();
         return;

@@ -113,8 +113,42 @@ bool Runner::metKey(Command& c) {
     return false;
 }
 
+// The step has pressed all its keys, or it presses none and is done.
+bool Runner::actedAll() const {
+    if (!cur_) return true;
+    switch (cur_->op) {
+        case Op::Key: return keyIndex_ >= cur_->keys.size();
+        case Op::At:
+        case Op::Close: return keyIndex_ > 0;
+        default: return false;
+    }
+}
+
+// A journal writes a seed behind the key that led to its draw, and the
+// program draws it before the runner turns again to read the line. So a
+// draw takes a seed line not yet reached, when only seed lines stand between
+// it and a step that has done all it does. The runner passes over a taken
+// seed line when it reaches it.
+std::optional<std::uint64_t> Runner::takeSeed() {
+    if (seed_) {
+        auto s = seed_;
+        seed_.reset();
+        return s;
+    }
+    if (!actedAll()) return std::nullopt;
+    for (size_t i = qpos_; i < queue_.size() && queue_[i].op == Op::Seed; ++i) {
+        if (queue_[i].taken) continue;
+        queue_[i].taken = true;
+        return queue_[i].seed;
+    }
+    return std::nullopt;
+}
+
 bool Runner::met(Command& c) {
     switch (c.op) {
+        case Op::Seed:
+            if (!c.taken) seed_ = c.seed;
+            return true;
         case Op::Key: return metKey(c);
         case Op::Wait: return double(p_->now() - started_) >= c.seconds * 1000.0;
         case Op::Expect:
@@ -169,7 +203,7 @@ int Runner::finish() {
             begin();
         }
         Command& c = *cur_;
-        bool ok = c.op == Op::End || (c.op == Op::Key && keyIndex_ >= c.keys.size()) ||
+        bool ok = c.op == Op::End || c.op == Op::Seed || (c.op == Op::Key && keyIndex_ >= c.keys.size()) ||
                   ((c.op == Op::At || c.op == Op::Close) && keyIndex_ > 0) || c.op == Op::Quiet ||
                   ((c.op == Op::Expect || c.op == Op::ExpectSound) && findEvent(c));
         if (!ok) {

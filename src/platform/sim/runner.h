@@ -42,6 +42,9 @@ public:
     int finish();
     // The program spoke a text or started a sound.
     void note(const Event& e);
+    // The seed the script gives the program's next draw of a seed from the
+    // clock, if it gives one.
+    std::optional<std::uint64_t> takeSeed();
     // How many events are kept for the steps to come.
     size_t keptEvents() const { return events_.size(); }
 
@@ -53,6 +56,7 @@ private:
     bool metKey(Command& c);
     bool findEvent(const Command& c);
     void begin();
+    bool actedAll() const;
 
     std::istream& in_;
     bool live_;
@@ -73,6 +77,7 @@ private:
     size_t prevFrom_ = 0;           // the same for the step before
     size_t matchFrom_ = 0;          // just past the last matched event
     bool scriptDone_ = false;
+    std::optional<std::uint64_t> seed_;   // from a seed line the runner reached
     SimPlatform* p_ = nullptr;
 };
 

@@ -1,23 +1,14 @@
 #include "platform/sim/script.h"
 
 #include <cctype>
+#include <cerrno>
 #include <cstdlib>
-#include <map>
 #include <sstream>
 
-#include "platform/names.h"
 
 namespace sim {
 
 namespace {
-
-const std::map<std::string, int>& namedKeys() {
-    static const std::map<std::string, int> keys = {
-        {"enter", 13},  {"escape", 27}, {"space", 32},  {"backspace", 8}, {"up", 38},
-        {"down", 40},   {"shift", 16},  {"ctrl", 17},   {"alt", 18},      {"pause", 19},
-        {"scrolllock", 145}, {"numplus", 107}, {"numpoint", 110}, {"comma", 188}};
-    return keys;
-}
 
 bool allDigits(const std::string& s) {
     if (s.empty()) return false;
@@ -108,25 +99,6 @@ std::vector<int> typedKeys(const std::string& text) {
 
 }  // namespace
 
-int keyCode(const std::string& name) {
-    if (name.size() > 1 && name[0] == '#' && allDigits(name.substr(1))) {
-        long v = std::strtol(name.c_str() + 1, nullptr, 10);
-        return v >= 0 && v <= 255 ? int(v) : -1;
-    }
-    std::string n = platform::lower(name);
-    auto it = namedKeys().find(n);
-    if (it != namedKeys().end()) return it->second;
-    if (n.size() == 1 && n[0] >= 'a' && n[0] <= 'z') return n[0] - 32;
-    if (n.size() == 1 && n[0] >= '0' && n[0] <= '9') return n[0];
-    if (n.size() == 4 && n.rfind("num", 0) == 0 && std::isdigit(static_cast<unsigned char>(n[3])))
-        return 96 + (n[3] - '0');
-    if (n.size() >= 2 && n[0] == 'f' && allDigits(n.substr(1))) {
-        int f = std::atoi(n.c_str() + 1);
-        if (f >= 1 && f <= 12) return 111 + f;
-    }
-    return -1;
-}
-
 std::optional<Command> parseLine(const std::string& raw, int line, std::string& error) {
     std::string s = trim(stripComment(raw));
     if (s.empty()) return std::nullopt;
@@ -174,6 +146,12 @@ std::optional<Command> parseLine(const std::string& raw, int line, std::string& 
         if (c.text.empty() || !parseNumber(pct, c.percent) || code < 0 || (as >> extra))
             return bad("at needs STEM PERCENT KEY");
         c.keys.push_back(code);
+    } else if (word == "seed") {
+        c.op = Op::Seed;
+        std::string n = trim(rest);
+        errno = 0;
+        c.seed = std::strtoull(n.c_str(), nullptr, 10);
+        if (!allDigits(n) || errno == ERANGE) return bad("seed needs a whole number");
     } else {
         return bad("unknown command " + word);
     }

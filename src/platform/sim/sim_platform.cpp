@@ -37,6 +37,11 @@ void SimPlatform::yield() {
     runner_.step();
 }
 
+std::uint64_t SimPlatform::clockSeed() {
+    auto seed = runner_.takeSeed();
+    return seed ? *seed : tick();
+}
+
 void SimPlatform::messageBox(const std::string& text) { log("msgbox " + quote(text)); }
 void SimPlatform::beep() { log("beep"); }
 double SimPlatform::timeOfDay() { return std::fmod(opt_.clockStart + double(clock_) / 1000.0, 86400.0); }

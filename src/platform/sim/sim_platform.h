@@ -42,6 +42,8 @@ public:
     void setCloseHandler(std::function<void()> onClose) override { onClose_ = std::move(onClose); }
     void yield() override;
     std::uint32_t tick() override { return std::uint32_t(opt_.tickStart + clock_); }
+    // The script's seed, or else the tick count.
+    std::uint64_t clockSeed() override;
     void dueAt(std::uint32_t) override {}
     void messageBox(const std::string& text) override;
     void beep() override;

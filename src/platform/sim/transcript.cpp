@@ -4,27 +4,6 @@
 
 namespace sim {
 
-std::string quote(const std::string& text) {
-    std::string out = "\"";
-    for (char c : text) {
-        switch (c) {
-            case '"': out += "\\\""; break;
-            case '\\': out += "\\\\"; break;
-            case '\r': out += "\\r"; break;
-            case '\n': out += "\\n"; break;
-            default:
-                if (static_cast<unsigned char>(c) < 32) {
-                    char hex[5];
-                    std::snprintf(hex, sizeof hex, "\\x%02X", unsigned(static_cast<unsigned char>(c)));
-                    out += hex;
-                } else {
-                    out += c;
-                }
-        }
-    }
-    return out + "\"";
-}
-
 namespace {
 void (*currentSink)(const std::string&) = nullptr;
 }

@@ -4,11 +4,11 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/script_words.h"
+
 namespace sim {
 
-// A text in double quotes: \" \\ \r \n escaped, every other byte below 32
-// as \xHH, all else as it is.
-std::string quote(const std::string& text);
+using platform::script::quote;
 void emit(std::uint64_t ms, const std::string& body);
 // Where transcript lines go: standard output, flushed line by line, unless
 // a test takes them.

@@ -118,12 +118,16 @@ std::vector<std::string> XServer::allNamed(const std::string& name) const {
     return ids;
 }
 
-pid_t spawnIn(const std::string& folder, const std::string& program, const std::vector<std::string>& env) {
+pid_t spawnIn(const std::string& folder, const std::string& program, const std::vector<std::string>& env,
+              const std::vector<std::string>& args) {
+    std::vector<char*> argv{const_cast<char*>(program.c_str())};
+    for (const auto& a : args) argv.push_back(const_cast<char*>(a.c_str()));
+    argv.push_back(nullptr);
     pid_t pid = fork();
     if (pid == 0) {
         if (chdir(folder.c_str()) != 0) _exit(126);
         for (const auto& e : env) putenv(const_cast<char*>(e.c_str()));
-        execl(program.c_str(), program.c_str(), static_cast<char*>(nullptr));
+        execv(program.c_str(), argv.data());
         _exit(127);
     }
     return pid;

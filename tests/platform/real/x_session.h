@@ -36,9 +36,10 @@ private:
     std::string display_;
 };
 
-// Starts a program in `folder` with extra environment settings; returns its
-// process id.
-pid_t spawnIn(const std::string& folder, const std::string& program, const std::vector<std::string>& env);
+// Starts a program in `folder` with extra environment settings and its
+// arguments; returns its process id.
+pid_t spawnIn(const std::string& folder, const std::string& program, const std::vector<std::string>& env,
+              const std::vector<std::string>& args = {});
 // Waits up to `wait` for a child to end; its exit status, or -1 if it did not.
 int waitExit(pid_t pid, std::chrono::milliseconds wait);
 
