@@ -21,9 +21,8 @@ namespace {
 class GameBinary : public ::testing::Test {
 protected:
     void SetUp() override {
-        if (!realtest::onPath("xdotool")) GTEST_SKIP() << "needs xdotool";
-        x = std::make_unique<realtest::XServer>();
-        if (!x->running()) GTEST_SKIP() << "needs Xvfb";
+        std::string missing = realtest::startForGame(x);
+        if (!missing.empty()) GTEST_SKIP() << missing;
         ASSERT_TRUE(fs::exists(fs::path(GREENLARK_GAME_DIR) / "golf0.wav"))
             << "the game's wave files are missing: build the greenlark-waves target";
         audio = (fs::temp_directory_path() / ("greenlark-disk-" + std::to_string(getpid()) + ".raw")).string();

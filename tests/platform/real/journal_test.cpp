@@ -146,9 +146,8 @@ const char kTheReport[] = " shot went ";
 class JournalReplay : public ::testing::Test {
 protected:
     void SetUp() override {
-        if (!realtest::onPath("xdotool")) GTEST_SKIP() << "needs xdotool";
-        x = std::make_unique<realtest::XServer>();
-        if (!x->running()) GTEST_SKIP() << "needs Xvfb";
+        std::string missing = realtest::startForGame(x);
+        if (!missing.empty()) GTEST_SKIP() << missing;
         ASSERT_TRUE(fs::exists(fs::path(GREENLARK_GAME_DIR) / "golf0.wav"))
             << "the game's wave files are missing: build the greenlark-waves target";
         home = tempPath("journal-home");

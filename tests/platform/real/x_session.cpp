@@ -118,6 +118,13 @@ std::vector<std::string> XServer::allNamed(const std::string& name) const {
     return ids;
 }
 
+std::string startForGame(std::unique_ptr<XServer>& x) {
+    if (!onPath("xdotool")) return "needs xdotool";
+    x = std::make_unique<XServer>();
+    if (!x->running()) return "needs Xvfb";
+    return "";
+}
+
 pid_t spawnIn(const std::string& folder, const std::string& program, const std::vector<std::string>& env,
               const std::vector<std::string>& args) {
     std::vector<char*> argv{const_cast<char*>(program.c_str())};

@@ -5,6 +5,7 @@
 #include <sys/types.h>
 
 #include <chrono>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,10 @@ private:
     pid_t pid_ = 0;
     std::string display_;
 };
+
+// Starts the X server of a test of the game binary: what is missing for one
+// ("needs xdotool", "needs Xvfb"), or nothing.
+std::string startForGame(std::unique_ptr<XServer>& x);
 
 // Starts a program in `folder` with extra environment settings and its
 // arguments; returns its process id.
