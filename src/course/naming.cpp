@@ -11,10 +11,11 @@ bool inRange(int v, int slots) { return v >= 0 && v < slots; }
 }  // namespace
 
 std::string locname(int hole, int side, int id) {
-    if (!inRange(id, locSlots)) throw platform::Failure("location id out of range");
+    if (!inRange(id, locSlots)) throw platform::Failure("no location " + std::to_string(id));
     if (cs.fox == 1 || id != customLoc) return cs.locs[id];
     if (!inRange(hole, holeSlots) || !inRange(side, textSlots))
-        throw platform::Failure("custom text slot out of range");
+        throw platform::Failure("no custom text for hole " + std::to_string(hole) + " side " +
+                                std::to_string(side));
     return cs.HS[hole][side];
 }
 

@@ -20,7 +20,9 @@ namespace {
 // Nothing the game reads is anywhere near this; a larger file is refused.
 constexpr std::uintmax_t kMaxRead = 64u << 20;
 
-void fail(const std::string& what, const std::string& path) { throw Failure(what + ": " + path); }
+void fail(const std::string& what, const std::string& path, const std::string& why = "") {
+    throw Failure("cannot " + what + " " + path + (why.empty() ? "" : ": " + why));
+}
 
 }  // namespace
 
@@ -56,19 +58,20 @@ std::vector<DirEntry> list(const std::string& cwd, const std::string& pattern) {
 
 void makeDir(const std::string& cwd, const std::string& path) {
     std::error_code ec;
-    if (!fs::create_directory(resolve(cwd, path), ec) && ec) fail("mkdir", path);
+    if (!fs::create_directory(resolve(cwd, path), ec) && ec) fail("make the folder", path, ec.message());
 }
 
 void remove(const std::string& cwd, const std::string& path) {
     std::error_code ec;
-    if (!fs::remove(resolve(cwd, path), ec)) fail("delete", path);
+    if (!fs::remove(resolve(cwd, path), ec)) fail("delete", path, ec ? ec.message() : "not there");
 }
 
 std::string read(const std::string& cwd, const std::string& path) {
     std::string full = resolve(cwd, path);
     std::error_code ec;
     auto size = fs::file_size(full, ec);
-    if (ec || size > kMaxRead) fail("read", path);
+    if (ec) fail("read", path, ec.message());
+    if (size > kMaxRead) fail("read", path, "too large");
     std::ifstream in(full, std::ios::binary);
     if (!in) fail("read", path);
     std::ostringstream ss;

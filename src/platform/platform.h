@@ -121,11 +121,19 @@ public:
     // The program's own folder, where the wave files lie.
     virtual std::string programFolder() = 0;
     virtual void startProgram(const std::string& path) = 0;
+
+    // ---- failures
+    // A step abandoned under the error rule, and why. The player hears
+    // nothing of it; a developer can read it.
+    virtual void failed(const std::string& what) = 0;
 };
 
 // The platform the game runs on, set once by main.
 Platform& os();
 void install(Platform* p);
+
+// Hands an abandoned step's failure to the installed platform, if any.
+void reportFailure(const std::string& what);
 
 // Runs a step under the error rule: a Failure abandons the step, and the game
 // goes on behind it. Returns false when the step failed.
@@ -134,7 +142,8 @@ bool attempt(F&& step) {
     try {
         step();
         return true;
-    } catch (const Failure&) {
+    } catch (const Failure& f) {
+        reportFailure(f.what());
         return false;
     }
 }

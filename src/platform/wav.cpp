@@ -1,6 +1,7 @@
 #include "platform/wav.h"
 
-#include <cstring>
+#include "platform/platform.h"
+#include "platform/sound_limits.h"
 
 namespace platform {
 
@@ -15,15 +16,25 @@ std::uint16_t le16(const std::string& b, size_t at) {
     return std::uint16_t(std::uint8_t(b[at]) | std::uint8_t(b[at + 1]) << 8);
 }
 
-bool formatOk(const Wave& w) {
-    return (w.channels == 1 || w.channels == 2) && (w.bits == 8 || w.bits == 16) && w.rate > 0 &&
-           w.rate <= 384000 && w.blockAlign == w.channels * w.bits / 8;
+// What is wrong with the format, or "" when we can play it.
+std::string formatProblem(const Wave& w) {
+    if (w.channels != 1 && w.channels != 2) return std::to_string(w.channels) + " channels";
+    if (w.bits != 8 && w.bits != 16) return std::to_string(w.bits) + "-bit samples";
+    if (w.rate < minFrequency || w.rate > maxFrequency) return "a rate of " + std::to_string(w.rate);
+    if (w.blockAlign != w.channels * w.bits / 8) return "a block of " + std::to_string(w.blockAlign) + " bytes";
+    return "";
+}
+
+std::optional<Wave> refuse(std::string* why, const std::string& what) {
+    if (why) *why = what;
+    return std::nullopt;
 }
 
 }  // namespace
 
-std::optional<Wave> parseWave(const std::string& b) {
-    if (b.size() < 12 || b.compare(0, 4, "RIFF") != 0 || b.compare(8, 4, "WAVE") != 0) return std::nullopt;
+std::optional<Wave> parseWave(const std::string& b, std::string* why) {
+    if (b.size() < 12 || b.compare(0, 4, "RIFF") != 0 || b.compare(8, 4, "WAVE") != 0)
+        return refuse(why, "not a RIFF WAVE file");
     Wave w;
     bool haveFmt = false, haveData = false;
     size_t at = 12;
@@ -33,8 +44,9 @@ std::optional<Wave> parseWave(const std::string& b) {
         size_t body = at + 8;
         std::uint64_t avail = b.size() - body;
         if (id == "fmt ") {
-            if (len < 16 || len > avail) return std::nullopt;
-            if (le16(b, body) != 1) return std::nullopt;   // PCM only
+            if (len < 16 || len > avail) return refuse(why, "a cut fmt chunk");
+            int tag = le16(b, body);
+            if (tag != 1) return refuse(why, "format " + std::to_string(tag) + ", not PCM");
             w.channels = le16(b, body + 2);
             w.rate = int(le32(b, body + 4));
             w.blockAlign = le16(b, body + 12);
@@ -50,9 +62,20 @@ std::optional<Wave> parseWave(const std::string& b) {
         if (next > b.size()) break;
         at = size_t(next);
     }
-    if (!haveFmt || !haveData || !formatOk(w)) return std::nullopt;
+    if (!haveFmt) return refuse(why, "no fmt chunk");
+    if (!haveData) return refuse(why, "no data chunk");
+    std::string problem = formatProblem(w);
+    if (!problem.empty()) return refuse(why, problem);
     w.data.resize(w.data.size() - w.data.size() % size_t(w.blockAlign));
     return w;
+}
+
+Wave bufferWave(const std::string& bytes, const std::string& path) {
+    std::string why;
+    auto w = parseWave(bytes, &why);
+    if (!w) throw Failure("no sound buffer from " + path + ": " + why);
+    if (w->frames() == 0) throw Failure("no sound buffer from " + path + ": an empty data chunk");
+    return *w;
 }
 
 std::string fileStem(const std::string& path) {

@@ -24,7 +24,7 @@ void addpar() {
 }  // namespace
 
 void starthole() {
-    if (rs.hole < 1 || rs.hole > 18) throw platform::Failure("no such hole");
+    if (rs.hole < 1 || rs.hole > 18) throw platform::Failure("no hole " + std::to_string(rs.hole) + " to start");
     const int* h = course::cs.H[rs.hole];
     rs.par = h[1];
     rs.togo = rs.holelen = h[2];

@@ -11,7 +11,7 @@
 namespace play {
 
 std::string shotreporttext() {
-    if (rs.lie < 0 || rs.lie >= course::locSlots) throw platform::Failure("lie out of range");
+    if (rs.lie < 0 || rs.lie >= course::locSlots) throw platform::Failure("no lie " + std::to_string(rs.lie) + " to report");
     long off = long(std::floor(rs.offl));
     std::string t = " shot went " + spaced(rs.yds) + " yards. it's " + spaced(long(rs.remain)) +
                     " yards from the green and is " + spaced(off) + " yard" + (off == 1 ? " " : "s ") +

@@ -49,7 +49,7 @@ const Verdict verdicts[] = {
 };
 
 const Verdict& verdict(int sank) {
-    if (sank < 1 || sank > 8) throw platform::Failure("no such class");
+    if (sank < 1 || sank > 8) throw platform::Failure("no score word for class " + std::to_string(sank));
     return verdicts[sank];
 }
 

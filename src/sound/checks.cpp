@@ -25,7 +25,7 @@ void checkIndicator(const char* regular, const char* beeps, long bytes, const ch
         bk.fq = indicatorRate;
         std::string name = bk.powav == 0 ? regular : beeps;
         auto size = sizeInWorkingFolder(name);
-        if (!size) throw platform::Failure("missing " + name);   // the check is abandoned
+        if (!size) throw platform::Failure(name + " is not in the working folder");   // the check is abandoned
         if (*size == bytes) {
             auto& os = platform::os();
             replaceSb(os.createBuffer(wavepath(name.substr(0, name.size() - 4))));

@@ -9,6 +9,8 @@
 namespace platform::real {
 
 SdlPlatform::SdlPlatform() {
+    const char* trace = std::getenv("GREENLARK_TRACE");
+    trace_ = trace && std::string(trace) == "1";
     // SIGINT and SIGTERM keep their default action: they end the program.
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Greenlark");

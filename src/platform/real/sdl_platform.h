@@ -79,6 +79,8 @@ public:
     std::string documentsFolder() override;
     std::string programFolder() override;
     void startProgram(const std::string& path) override;
+    // To standard error when GREENLARK_TRACE=1 was set at start.
+    void failed(const std::string& what) override;
 
 private:
     void openAudio();
@@ -104,6 +106,7 @@ private:
     Pacer pacer_;
     std::uint32_t wakeEvent_ = 0;
     bool sdlUp_ = false;
+    bool trace_ = false;
 
     std::unique_ptr<AudioOutput> audio_;
     std::unique_ptr<SpeechEngine> speech_;

@@ -35,10 +35,9 @@ Mixer& SdlPlatform::soundsFor(int id) {
 int SdlPlatform::createBuffer(const std::string& path) {
     Mixer& mixer = openMixer();
     std::string bytes = files::read("", path);
-    auto wave = parseWave(bytes);
-    if (!wave) throw Failure("not a wave file we can play: " + path);
+    Wave wave = bufferWave(bytes, path);
     pacer_.active();
-    int id = mixer.add(*wave);
+    int id = mixer.add(wave);
     journal_.made(id, path, long(bytes.size()));
     return id;
 }

@@ -1,4 +1,5 @@
 // The platform's calls about time, files and the machine.
+#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 
@@ -52,6 +53,10 @@ std::string SdlPlatform::programFolder() { return dataFolderOf(executableFolder(
 void SdlPlatform::startProgram(const std::string& path) {
     launch(path);
     pacer_.active();
+}
+
+void SdlPlatform::failed(const std::string& what) {
+    if (trace_) std::fprintf(stderr, "greenlark: fail: %s\n", what.c_str());
 }
 
 }  // namespace platform::real

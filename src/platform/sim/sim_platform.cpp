@@ -50,12 +50,12 @@ void SimPlatform::endProcess() { throw platform::ProgramEnd{}; }
 // ---- speech
 
 std::string SimPlatform::voiceName(int index) {
-    if (index < 0 || index >= opt_.voices) throw platform::Failure("no such voice");
+    if (index < 0 || index >= opt_.voices) throw platform::Failure("no voice " + std::to_string(index));
     return "Voice " + std::to_string(index + 1);
 }
 
 void SimPlatform::setVoice(int index) {
-    if (index < 0 || index >= opt_.voices) throw platform::Failure("no such voice");
+    if (index < 0 || index >= opt_.voices) throw platform::Failure("no voice " + std::to_string(index));
     log("voice " + std::to_string(index));
 }
 
@@ -93,7 +93,7 @@ void SimPlatform::speak(const std::string& text, int flag) {
 
 SimBuffer& SimPlatform::buf(int id) {
     auto it = device_.buffers.find(id);
-    if (it == device_.buffers.end()) throw platform::Failure("no such buffer");
+    if (it == device_.buffers.end()) throw platform::Failure("no sound buffer " + std::to_string(id));
     return it->second;
 }
 
@@ -101,14 +101,13 @@ std::string SimPlatform::bufName(int id) { return buf(id).stem + " #" + std::to_
 
 int SimPlatform::createBuffer(const std::string& path) {
     std::string bytes = platform::files::read(opt_.cwd, path);
-    auto w = platform::parseWave(bytes);
-    if (!w) throw platform::Failure("not a wave file: " + path);
+    platform::Wave w = platform::bufferWave(bytes, path);
     SimBuffer b;
     b.stem = platform::fileStem(path);
     b.fileBytes = long(bytes.size());
-    b.dataBytes = long(w->data.size());
-    b.blockAlign = w->blockAlign;
-    b.fileRate = b.freq = w->rate;
+    b.dataBytes = long(w.data.size());
+    b.blockAlign = w.blockAlign;
+    b.fileRate = b.freq = w.rate;
     int id = device_.nextId++;
     device_.buffers[id] = b;
     return id;

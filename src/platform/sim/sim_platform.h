@@ -9,6 +9,7 @@
 #include "platform/platform.h"
 #include "platform/sim/runner.h"
 #include "platform/sim/sim_sound.h"
+#include "platform/sim/transcript.h"
 
 namespace sim {
 
@@ -85,6 +86,8 @@ public:
     std::string documentsFolder() override { return opt_.docs; }
     std::string programFolder() override { return opt_.game; }
     void startProgram(const std::string& path) override;
+    // A transcript line: fail "TEXT".
+    void failed(const std::string& what) override { log("fail " + quote(what)); }
 
 private:
     SimBuffer& buf(int id);
