@@ -111,6 +111,7 @@ void runOn(std::istream& in, bool live, const std::function<void()>& program, Re
         o.tickStart = tickStart;
         sim::SimPlatform p(o, runner);
         platform::install(&p);
+        p.openSoundDevice();   // as start-up does first
         try {
             try {
                 program();

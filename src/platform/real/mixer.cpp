@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/sound_limits.h"
+
 namespace platform::real {
 
 Mixer::Mixer(int deviceRate, int latencyFrames) : rate_(deviceRate), clock_(deviceRate, latencyFrames) {}
@@ -67,8 +69,7 @@ int Mixer::status(int id, std::int64_t now) {
 void Mixer::setPosition(int id, long bytes) {
     std::lock_guard lock(mutex_);
     Sound& s = find(id);
-    long frame = std::clamp(bytes / s.blockAlign, 0L, std::max(s.frames - 1, 0L));
-    s.pos = double(frame);
+    s.pos = double(checkedPosition(id, bytes, s.frames * s.blockAlign, s.blockAlign) / s.blockAlign);
     restartHistory(s, s.pos);
 }
 
@@ -84,6 +85,7 @@ CursorPair Mixer::position(int id, std::int64_t now) {
 void Mixer::setVolume(int id, int hundredthsDb) {
     std::lock_guard lock(mutex_);
     Sound& s = find(id);
+    checkVolume(id, hundredthsDb);
     s.volume = hundredthsDb;
     applyGains(s);
 }
@@ -91,7 +93,8 @@ void Mixer::setVolume(int id, int hundredthsDb) {
 void Mixer::setPan(int id, int hundredthsDb) {
     std::lock_guard lock(mutex_);
     Sound& s = find(id);
-    s.pan = std::clamp(hundredthsDb, -10000, 10000);
+    checkPan(id, hundredthsDb);
+    s.pan = hundredthsDb;
     applyGains(s);
 }
 
@@ -103,8 +106,8 @@ int Mixer::frequency(int id) {
 void Mixer::setFrequency(int id, int hz) {
     std::lock_guard lock(mutex_);
     Sound& s = find(id);
-    if (hz < 0) throw Failure("bad frequency");
-    if (hz > 0) s.frequency = hz;
+    checkFrequency(id, hz);
+    s.frequency = hz == originalFrequency ? s.fileRate : hz;
 }
 
 }  // namespace platform::real

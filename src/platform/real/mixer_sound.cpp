@@ -27,7 +27,7 @@ Sound decodeSound(const Wave& wave) {
     s.channels = wave.channels;
     s.blockAlign = wave.blockAlign;
     s.frames = wave.frames();
-    s.frequency = wave.rate;
+    s.frequency = s.fileRate = wave.rate;
     std::size_t n = std::size_t(s.frames) * std::size_t(s.channels);
     s.samples.resize(n);
     for (std::size_t i = 0; i < n; ++i) s.samples[i] = sampleAt(wave, i);

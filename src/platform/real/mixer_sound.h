@@ -29,6 +29,7 @@ struct Sound {
     int blockAlign = 1;           // bytes per frame in the file
     long frames = 0;
     int frequency = 0;            // source frames per second
+    int fileRate = 0;             // the file's own
     int volume = 0;               // hundredths of a decibel
     int pan = 0;
     float leftGain = 1;

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "platform/files.h"
+#include "platform/sound_limits.h"
 #include "platform/sim/transcript.h"
 #include "platform/wav.h"
 
@@ -99,7 +100,13 @@ SimBuffer& SimPlatform::buf(int id) {
 
 std::string SimPlatform::bufName(int id) { return buf(id).stem + " #" + std::to_string(id); }
 
+void SimPlatform::closeSoundDevice() {
+    device_.buffers.clear();
+    device_.open = false;
+}
+
 int SimPlatform::createBuffer(const std::string& path) {
+    if (!device_.open) throw platform::Failure("the sound device is not open");
     std::string bytes = platform::files::read(opt_.cwd, path);
     platform::Wave w = platform::bufferWave(bytes, path);
     SimBuffer b;
@@ -119,11 +126,19 @@ void SimPlatform::releaseBuffer(int id) {
     log("release " + name);
 }
 
+void SimPlatform::setFrequency(int id, int hz) {
+    SimBuffer& b = buf(id);
+    platform::checkFrequency(id, hz);
+    device_.update(clock_);
+    device_.rebase(b, clock_);
+    b.freq = hz == platform::originalFrequency ? b.fileRate : hz;
+}
+
 void SimPlatform::setCurrentPosition(int id, long bytes) {
     SimBuffer& b = buf(id);
+    long at = platform::checkedPosition(id, bytes, b.dataBytes, b.blockAlign);
     device_.update(clock_);
-    if (bytes < 0 || bytes > b.dataBytes) throw platform::Failure("position out of range");
-    b.pos = b.startPos = bytes;
+    b.pos = b.startPos = at;
     b.startMs = clock_;
 }
 
@@ -135,21 +150,27 @@ platform::CursorPair SimPlatform::getCurrentPosition(int id) {
 }
 
 void SimPlatform::setVolumeDb(int id, int v) {
-    if (v > 0 || v < -10000) throw platform::Failure("volume out of range");
-    buf(id).volume = v;
+    SimBuffer& b = buf(id);
+    platform::checkVolume(id, v);
+    b.volume = v;
     log("setvol " + bufName(id) + " " + std::to_string(v));
 }
 
 void SimPlatform::setPan(int id, int p) {
-    if (p > 10000 || p < -10000) throw platform::Failure("pan out of range");
-    buf(id).pan = p;
+    SimBuffer& b = buf(id);
+    platform::checkPan(id, p);
+    b.pan = p;
     log("setpan " + bufName(id) + " " + std::to_string(p));
 }
 
 void SimPlatform::play(int id, int loopFlag) {
     SimBuffer& b = buf(id);
     device_.update(clock_);
-    if (b.playing) return;
+    if (b.playing) {   // on without a rewind, with the new loop flag
+        device_.rebase(b, clock_);
+        b.looping = loopFlag != 0;
+        return;
+    }
     b.playing = true;
     b.looping = loopFlag != 0;
     b.startMs = clock_;

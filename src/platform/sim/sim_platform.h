@@ -62,12 +62,12 @@ public:
     void speak(const std::string& text, int flag) override;
     int runningState() override { return double(clock_) < speechEnd_ ? 2 : 0; }
 
-    void openSoundDevice() override {}
-    void closeSoundDevice() override {}
+    void openSoundDevice() override { device_.open = true; }
+    void closeSoundDevice() override;
     int createBuffer(const std::string& path) override;
     void releaseBuffer(int id) override;
-    int getFrequency(int id) override { return buf(id).fileRate; }
-    void setFrequency(int id, int hz) override { buf(id).freq = hz; }
+    int getFrequency(int id) override { return buf(id).freq; }
+    void setFrequency(int id, int hz) override;
     void setCurrentPosition(int id, long bytes) override;
     platform::CursorPair getCurrentPosition(int id) override;
     void setVolumeDb(int id, int hundredthsDb) override;

@@ -15,6 +15,11 @@ long SimDevice::cursor(const SimBuffer& b, std::uint64_t now) const {
     return at < b.dataBytes ? at : b.dataBytes;
 }
 
+void SimDevice::rebase(SimBuffer& b, std::uint64_t now) const {
+    b.startPos = cursor(b, now);
+    b.startMs = now;
+}
+
 void SimDevice::update(std::uint64_t now) {
     for (auto& [id, b] : buffers) {
         if (!b.playing || b.looping) continue;

@@ -29,8 +29,12 @@ public:
     // with its position back at 0.
     void update(std::uint64_t now);
     long cursor(const SimBuffer& b, std::uint64_t now) const;
+    // A playing buffer goes on from where it is now, so that a change of
+    // its rate or loop flag counts from this moment.
+    void rebase(SimBuffer& b, std::uint64_t now) const;
     std::map<int, SimBuffer> buffers;
     int nextId = 1;
+    bool open = false;
 };
 
 }  // namespace sim

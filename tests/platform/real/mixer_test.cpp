@@ -50,7 +50,7 @@ TEST_F(MixerTest, VolumeAndPanFollowTheDecibelRules) {
     render();
     EXPECT_NEAR(left(10), 0.5 * volume * std::pow(10.0, -1.25), 1e-4);
     EXPECT_NEAR(right(10), 0.5 * volume, 1e-4);
-    mixer.setVolume(id, -10001);
+    mixer.setVolume(id, -10000);
     render();
     EXPECT_EQ(left(10), 0.0f);
     EXPECT_EQ(right(10), 0.0f);
