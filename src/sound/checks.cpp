@@ -20,18 +20,24 @@ std::optional<long> sizeInWorkingFolder(const std::string& name) {
     return std::nullopt;
 }
 
+// A new buffer of the indicator in sb and its frequency in fq. False when
+// no buffer can be made of the file: that fails the check, as a wrong size
+// does.
+bool loadIndicator(const std::string& name) {
+    return platform::attempt([&] {
+        auto& os = platform::os();
+        replaceSb(os.createBuffer(wavepath(name.substr(0, name.size() - 4))));
+        bk.fq = os.getFrequency(bk.sb);
+    });
+}
+
 void checkIndicator(const char* regular, const char* beeps, long bytes, const char* message) {
     platform::attempt([&] {
         bk.fq = indicatorRate;
         std::string name = bk.powav == 0 ? regular : beeps;
         auto size = sizeInWorkingFolder(name);
         if (!size) throw platform::Failure(name + " is not in the working folder");   // the check is abandoned
-        if (*size == bytes) {
-            auto& os = platform::os();
-            replaceSb(os.createBuffer(wavepath(name.substr(0, name.size() - 4))));
-            bk.fq = os.getFrequency(bk.sb);
-            if (bk.fq == indicatorRate) return;
-        }
+        if (*size == bytes && loadIndicator(name) && bk.fq == indicatorRate) return;
         bk.fq = failedCheck;
         StopAllSounds();
         stopWater();

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "input/keys.h"
 #include "platform/platform.h"
@@ -204,6 +205,82 @@ TEST(WaveChecks, ThePuttIndicatorCheckReadsItsOwnFile) {
     EXPECT_EQ(fq, 13);
     EXPECT_TRUE(r.has("putt power wave file seems to be corrupt"));
     EXPECT_FALSE(r.has("hit power wave file"));
+    std::filesystem::remove_all(dir);
+}
+
+// A hit indicator file of exactly its size: a mono fmt chunk of the given
+// format tag and sample size, a data chunk (or none), and a LIST chunk that
+// fills the rest.
+std::string indicatorOf(int tag, int bits, bool dataChunk, long dataBytes) {
+    auto le = [](std::string& s, std::uint32_t v, int n) {
+        for (int i = 0; i < n; ++i) s += char((v >> (8 * i)) & 0xff);
+    };
+    int align = bits / 8;
+    std::string f = "RIFF";
+    le(f, std::uint32_t(sound::hitIndicatorBytes - 8), 4);
+    f += "WAVEfmt ";
+    le(f, 16, 4);
+    le(f, std::uint32_t(tag), 2);
+    le(f, 1, 2);
+    le(f, std::uint32_t(sound::indicatorRate), 4);
+    le(f, std::uint32_t(sound::indicatorRate * align), 4);
+    le(f, std::uint32_t(align), 2);
+    le(f, std::uint32_t(bits), 2);
+    if (dataChunk) {
+        f += "data";
+        le(f, std::uint32_t(dataBytes), 4);
+        f += std::string(size_t(dataBytes), '\x10');
+    }
+    long rest = sound::hitIndicatorBytes - long(f.size()) - 8;
+    f += "LIST";
+    le(f, std::uint32_t(rest), 4);
+    f += std::string(size_t(rest), ' ');
+    return f;
+}
+
+// An indicator of the right size that no buffer can be made of fails its
+// check, as a wrong size does; one that is not in the working folder at all
+// abandons the check with the rate still standing.
+TEST(WaveChecks, AnIndicatorNoBufferCanBeMadeOfFailsItsCheck) {
+    struct Bad {
+        const char* what;
+        std::string bytes;
+    };
+    const long fill = sound::hitIndicatorBytes - 44;
+    const Bad bad[] = {{"float", indicatorOf(3, 32, true, fill - 8)},
+                       {"24-bit", indicatorOf(1, 24, true, fill - 8)},
+                       {"no data chunk", indicatorOf(1, 16, false, 0)},
+                       {"an empty data chunk", indicatorOf(1, 16, true, 0)}};
+    std::string dir = gameCopy();
+    for (const Bad& b : bad) {
+        ASSERT_EQ(long(b.bytes.size()), sound::hitIndicatorBytes) << b.what;
+        std::ofstream(dir + "/golf7.wav", std::ios::binary | std::ios::trunc) << b.bytes;
+        int fq = 0;
+        auto r = runInProcess("end\n", [&] {
+            fresh();
+            sound::checkwaves();
+            sound::CheckHitWav();
+            fq = sound::bk.fq;
+        }, "", dir);
+        ASSERT_EQ(r.code, 0) << b.what << "\n" << r.dump();
+        EXPECT_EQ(fq, sound::failedCheck) << b.what;
+        EXPECT_TRUE(r.has("hit power wave file seems to be corrupt")) << b.what << "\n" << r.dump();
+        EXPECT_TRUE(r.has("fail \"no sound buffer from " + dir + "/golf7.wav: ")) << b.what;
+    }
+    auto startUp = runBinary("expect \"seem to be corrupt\"\nend\n", {"--game", dir});
+    EXPECT_EQ(startUp.code, 0) << startUp.dump();
+    EXPECT_TRUE(startUp.has("msgbox")) << startUp.dump();
+
+    std::filesystem::remove(dir + "/golf7.wav");
+    int fq = 0;
+    auto gone = runInProcess("end\n", [&] {
+        fresh();
+        sound::CheckHitWav();
+        fq = sound::bk.fq;
+    }, "", dir);
+    ASSERT_EQ(gone.code, 0) << gone.dump();
+    EXPECT_EQ(fq, sound::indicatorRate);
+    EXPECT_FALSE(gone.has("corrupt")) << gone.dump();
     std::filesystem::remove_all(dir);
 }
 
