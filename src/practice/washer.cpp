@@ -12,10 +12,10 @@ void ballwasher() {
     auto& os = platform::os();
     auto& bk = sound::bk;
     input::clk();   // a key pressed before the washing does not end it
-    platform::attempt([&] {
-        os.setVolumeDb(bk.b_golf10, bk.wavol - 200);
-        os.play(bk.b_golf10, 1);
-    });
+    // Each step on its own: a volume the device refuses leaves the crowd
+    // playing at the one it had.
+    platform::attempt([&] { os.setVolumeDb(bk.b_golf10, bk.wavol - 200); });
+    platform::attempt([&] { os.play(bk.b_golf10, 1); });
     platform::attempt([&] {
         sound::replaceSb(sound::loadbuffer(sound::stem::washer, bk.wavol));
         os.play(bk.sb, 1);
@@ -24,10 +24,8 @@ void ballwasher() {
     // A settings routine run by the key may have replaced or released sb.
     platform::attempt([&] { os.stop(bk.sb); });
     sound::releaseField(bk.sb);
-    platform::attempt([&] {
-        os.stop(bk.b_golf10);
-        os.setVolumeDb(bk.b_golf10, bk.wavol);   // from now on level with the effects
-    });
+    platform::attempt([&] { os.stop(bk.b_golf10); });
+    platform::attempt([&] { os.setVolumeDb(bk.b_golf10, bk.wavol); });   // from now on level with the effects
     input::clk();
 }
 

@@ -54,6 +54,21 @@ TEST(BallWasher, TheWasherRunsOverAQuietCrowdUntilAKey) {
     EXPECT_EQ(sound::bk.sb, 0);
 }
 
+TEST(BallWasher, AtTheLowestVolumeTheCrowdStillComesOnAndGoesOff) {
+    // 200 below -5000 is a volume the device refuses: the crowd plays at
+    // the one it had.
+    auto r = runInProcess("wait 1\nkey Space\nend\n", [&] {
+        roundtest::freshGame();
+        sound::bk.wavol = -5000;
+        practice::ballwasher();
+    });
+    ASSERT_EQ(r.code, 0) << r.dump();
+    const int key = r.find("key 32");
+    for (int at : r.sequence({"play golf10 ", "play golf30 "}, r.find("setvol golf31 #")))
+        EXPECT_TRUE(at >= 0 && at < key) << r.dump();
+    for (int at : r.sequence({"stop golf30 ", "stop golf10 "}, key)) EXPECT_GT(at, key) << r.dump();
+}
+
 // The length of a 1 wood at full power off the first tee of a round begun
 // with the ball washed or not, the generator seeded with seed. A resumed
 // round takes up a game saved at the first tee with the other ball.
