@@ -3,14 +3,10 @@
 // on the first built-in course.
 #include "session/entry.h"
 
-#include "course/catalogue.h"
-#include "course/course.h"
-#include "course/locs.h"
+#include "session/menu.h"
+
 #include "input/keys.h"
 #include "platform/platform.h"
-#include "platform/rnd.h"
-#include "round/driver.h"
-#include "round/session.h"
 #include "round/state.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
@@ -46,16 +42,6 @@ bool wavesPass() {
     return sound::bk.fq != sound::failedCheck;
 }
 
-// Until the main menu exists: one round on the first built-in course.
-void roundOnFirstCourse(const std::string& name) {
-    if (course::cs.locs[1].empty()) course::fillLocs();
-    play::rs.nocs = course::GetCors(play::kp());
-    platform::reseedFromClock();
-    play::rs.pn = name;
-    play::rs.c = 1;
-    play::playround();
-}
-
 }  // namespace
 
 void gamemain() {
@@ -85,7 +71,8 @@ void gamemain() {
         q.text = " Is " + name + " correct for your name?";
         if (voice::yesno(q)) {
             voice::say(" Hello " + name + ". ");
-            roundOnFirstCourse(name);
+            play::rs.pn = name;
+            mainmenu();
             break;
         }
     }

@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 #include "practice/state.h"
 #include "round/state.h"
+#include "session/state.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
 #include "voice/state.h"
@@ -26,6 +27,7 @@ inline void freshGame() {
     course::cs = course::Course{};
     play::rs = play::RoundState{};
     practice::pr = practice::PracticeState{};
+    session::ss = session::SessionState{};
     platform::os().setKeyHandler([](int code) { input::Form_KeyDown(code); });
     sound::CreateSounds();
     sound::countamb();

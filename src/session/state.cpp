@@ -1,0 +1,7 @@
+#include "session/state.h"
+
+namespace session {
+
+SessionState ss;
+
+}  // namespace session
