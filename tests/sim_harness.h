@@ -42,14 +42,21 @@ Result runInProcessFromTick(std::uint32_t tickStart, const std::string& script, 
 void runInProcessLive(std::istream& in, const std::function<void()>& program, Result& r,
                       const std::string& docs = "");
 
-// The program's name question answered, up to the first tee of the round:
-// the script steps that every round scenario begins with.
-inline const char* kToTheTee = R"(expect "Please enter your name"
+// From the start of the program to the main menu's first " select ": the
+// one place that knows the opening, so that a change there changes only it.
+inline const char* kToTheMenu = R"(expect "Please enter your name"
 type Jo
 key Enter
 expect "correct for your name? yes"
 key Enter
 )";
+
+// From the main menu to the first tee of a round on course 1: the script
+// steps that every round scenario begins with, after kToTheMenu.
+inline const char* kMenuToTheTee = "";
+
+// From the start of the program to the first tee of course 1.
+inline const std::string kToTheTee = std::string(kToTheMenu) + kMenuToTheTee;
 
 // A new empty temporary folder.
 std::string tempDir();
