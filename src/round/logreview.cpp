@@ -2,10 +2,11 @@
 #include <string>
 #include <vector>
 
+#include "course/textfile.h"
 #include "input/keys.h"
 #include "platform/platform.h"
+#include "records/state.h"
 #include "round/inplay.h"
-#include "round/session.h"
 #include "sound/bank.h"
 #include "voice/speech.h"
 
@@ -15,34 +16,14 @@ namespace {
 
 using input::ks;
 
-// The log's lines, read one at a time; a read past the end leaves the
-// line it was to fill as it was.
-class Lines {
-public:
-    explicit Lines(const std::string& text) {
-        size_t at = 0;
-        while (at < text.size()) {
-            size_t end = text.find_first_of("\r\n", at);
-            if (end == std::string::npos) end = text.size();
-            lines_.push_back(text.substr(at, end - at));
-            at = end;
-            if (text.compare(at, 2, "\r\n") == 0) at += 2;
-            else if (at < text.size()) at += 1;
-        }
-    }
-    bool atend() const { return next_ >= lines_.size(); }
-    void read(std::string& into) {
-        if (!atend()) into = lines_[next_++];
-    }
-
-private:
-    std::vector<std::string> lines_;
-    size_t next_ = 0;
-};
+// The next line into into; past the end of the log it stays as it was.
+void readinto(course::File& log, std::string& into) {
+    if (!course::atend(log)) into = course::readline(log);
+}
 
 std::string logtext() {
     std::string text;
-    platform::attempt([&] { text = platform::os().readFile(kp() + "/golflog.txt"); });
+    platform::attempt([&] { text = platform::os().readFile(records::golog()); });
     return text;
 }
 
@@ -55,16 +36,17 @@ int wrap(int pointer, int n) {
 }  // namespace
 
 std::vector<std::string> logentries(const std::string& text) {
-    Lines log(text);
+    course::File log;
+    log.bytes = text;
     std::string line;
-    for (int head = 0; head < 3; ++head) log.read(line);
+    for (int head = 0; head < 3; ++head) readinto(log, line);
     std::vector<std::string> entries;
     do {
-        log.read(line);
+        readinto(log, line);
         std::string first = line;
-        log.read(line);
+        readinto(log, line);
         entries.push_back(first + " " + line);
-    } while (!log.atend() && int(entries.size()) < maxLogEntries);
+    } while (!course::atend(log) && int(entries.size()) < maxLogEntries);
     return entries;
 }
 

@@ -1,11 +1,9 @@
-// Stand-in for the round log, the course records and the spoken reports
-// until they exist: nothing is written and nothing is said.
+// Stand-in for the course records and the spoken reports until they exist:
+// nothing is written and nothing is said.
 #include "round/records.h"
 
 namespace play {
 
-void startlog(int) {}
-void loggit() {}
 void resaydidonhole() {}
 void sayendscore() {}
 void SayRecOrNot() {}

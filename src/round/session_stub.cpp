@@ -13,7 +13,7 @@ namespace play {
 std::string kp() { return platform::os().documentsFolder() + "/brindlewick"; }
 
 void pickcourse() {
-    startlog(rs.c);
+    platform::attempt([] { startlog(rs.c); });
     loadcourse();
 }
 

@@ -6,7 +6,8 @@
 // short again, with once a driver off the deck and once a wood in the trap
 // where it can. It also keeps the card of each hole as heard: the strokes
 // (swings, putts and the penalties spoken), the par told at the tee, and
-// whether the verdict said matches them.
+// whether the verdict said matches them. Asked whether it is the new record
+// holder, it says yes.
 #pragma once
 
 #include <algorithm>
@@ -31,7 +32,9 @@ struct Card {
 
 class Caddie {
 public:
-    explicit Caddie(std::vector<std::string> opening = {}) : queue_(opening.begin(), opening.end()) {}
+    // holes: how many holes the round has left, 18 for a new round.
+    explicit Caddie(std::vector<std::string> opening = {}, size_t holes = 18)
+        : queue_(opening.begin(), opening.end()), holes_(holes) {}
 
     // The next script line, or nothing once the round is over.
     std::optional<std::string> next(const std::vector<std::string>& lines) {
@@ -44,6 +47,8 @@ public:
             if (l.find("Select Your Club") != std::string::npos) return answer(lines, &Caddie::clubKeys);
             if (l.find("ready to putt") != std::string::npos) return answer(lines, &Caddie::puttKeys);
             if (l.find("press any key to continue") != std::string::npos) return answer(lines, &Caddie::holeDone);
+            if (l.find("correct for the name of the new record holder? yes") != std::string::npos)
+                return answer(lines, &Caddie::holderKeys);
         }
         return "wait 0.25";
     }
@@ -164,8 +169,11 @@ private:
         return {"key Space", "at golf6 " + std::to_string(p) + " Space"};
     }
 
+    // The name it was asked about is the right one.
+    std::vector<std::string> holderKeys() { return {"key Enter"}; }
+
     std::vector<std::string> holeDone() {
-        if (cards_.size() == 18) {
+        if (cards_.size() == holes_) {
             over_ = true;   // the end of the round's own prompt
             return {"key Space"};
         }
@@ -186,6 +194,7 @@ private:
     }
 
     std::deque<std::string> queue_;
+    size_t holes_ = 18;
     size_t mark_ = 0;    // prompts before this line are answered
     size_t heard_ = 0;   // lines listened to
     int hole_ = 1, holelen_ = 0, togo_ = 0, lie_ = 1, feet_ = 0;

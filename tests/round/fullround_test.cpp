@@ -4,15 +4,6 @@
 // heard alone.
 #include <gtest/gtest.h>
 
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <cstdio>
-#include <functional>
-#include <istream>
-#include <optional>
-#include <streambuf>
 #include <string>
 #include <vector>
 
@@ -23,100 +14,17 @@
 #include "round/driver.h"
 #include "round/fresh_game.h"
 #include "round/fullround_caddie.h"
+#include "round/fullround_play.h"
 #include "round/state.h"
 #include "sim_harness.h"
 #include "sound/ambient.h"
 #include "sound/bank.h"
 
 using caddie::Caddie;
+using caddie::playInProcess;
+using caddie::playThroughSim;
 
 namespace {
-
-// Script lines made one at a time, as the runner asks for them.
-class Feed : public std::streambuf {
-public:
-    explicit Feed(std::function<std::optional<std::string>()> next) : next_(std::move(next)) {}
-
-protected:
-    int_type underflow() override {
-        if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
-        auto line = next_();
-        if (!line) return traits_type::eof();
-        buf_ = *line + "\n";
-        setg(buf_.data(), buf_.data(), buf_.data() + buf_.size());
-        return traits_type::to_int_type(*gptr());
-    }
-
-private:
-    std::function<std::optional<std::string>()> next_;
-    std::string buf_;
-};
-
-// The live runner around program in this process; after each line the
-// caddie gives, watch runs inside the program's wait.
-simtest::Result playInProcess(Caddie& c, const std::function<void()>& program, const std::function<void()>& watch) {
-    simtest::Result out;
-    Feed feed([&]() -> std::optional<std::string> {
-        auto line = c.next(out.lines);
-        watch();
-        return line;
-    });
-    std::istream in(&feed);
-    simtest::runInProcessLive(in, program, out, simtest::tempDir());
-    return out;
-}
-
-bool isDone(const std::string& line, int n) {
-    std::string tail = " done " + std::to_string(n);
-    return line.size() > tail.size() && line.ends_with(tail) && line.find('"') == std::string::npos;
-}
-
-// greenlark-sim reading its script from a pipe: each line is written once
-// the one before it is done.
-simtest::Result playThroughSim(Caddie& c) {
-    simtest::Result out;
-    int toSim[2], fromSim[2];
-    if (pipe(toSim) != 0 || pipe(fromSim) != 0) return out;
-    pid_t pid = fork();
-    if (pid == 0) {
-        dup2(toSim[0], 0);
-        dup2(fromSim[1], 1);
-        for (int fd : {toSim[0], toSim[1], fromSim[0], fromSim[1]}) close(fd);
-        execl(GREENLARK_SIM, GREENLARK_SIM, "-", static_cast<char*>(nullptr));
-        _exit(127);
-    }
-    close(toSim[0]);
-    close(fromSim[1]);
-    auto oldPipe = signal(SIGPIPE, SIG_IGN);
-    FILE* to = fdopen(toSim[1], "w");
-    FILE* from = fdopen(fromSim[0], "r");
-    char buf[8192];
-    auto readLine = [&]() -> bool {
-        if (!std::fgets(buf, sizeof buf, from)) return false;
-        std::string l(buf);
-        if (!l.empty() && l.back() == '\n') l.pop_back();
-        out.lines.push_back(l);
-        return true;
-    };
-    for (int sent = 1;; ++sent) {
-        auto line = c.next(out.lines);
-        if (!line) break;
-        std::fprintf(to, "%s\n", line->c_str());
-        std::fflush(to);
-        bool done = false;
-        while (!done && readLine()) done = isDone(out.lines.back(), sent);
-        if (!done) break;   // the program has ended
-    }
-    std::fclose(to);
-    while (readLine()) {
-    }
-    std::fclose(from);
-    int status = 0;
-    waitpid(pid, &status, 0);
-    signal(SIGPIPE, oldPipe);
-    out.code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return out;
-}
 
 const int course1Pars[18] = {5, 3, 5, 4, 4, 4, 3, 4, 4, 4, 4, 3, 5, 4, 4, 3, 4, 5};
 

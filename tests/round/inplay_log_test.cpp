@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "course/stored.h"
 #include "inplay_support.h"
 #include "round/inplay.h"
 
@@ -59,11 +60,17 @@ TEST(InPlayLogEntries, TheReviewHoldsAtMost111Entries) {
     EXPECT_EQ(entries.back(), "line 111 more");
 }
 
-// A documents folder whose player folder holds the log text given.
+// A documents folder whose player folder holds the log text given and a
+// game saved at the first tee of course 1, so that the round goes on with
+// that log instead of starting its own.
 std::string docsWithLog(const std::string& text) {
     std::string docs = simtest::tempDir();
     std::filesystem::create_directories(docs + "/brindlewick");
     std::ofstream(docs + "/brindlewick/golflog.txt", std::ios::binary) << text;
+    std::string saved;
+    // flag, hole, stks, eight counters, total, dirty, hookset, c, nsaves
+    for (int v : {1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 5, 1, 3, 1, 1}) saved += course::encodevalue({double(v), 2});
+    std::ofstream(docs + "/brindlewick/golfgame.sav", std::ios::binary) << saved;
     return docs;
 }
 
