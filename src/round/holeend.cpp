@@ -49,10 +49,7 @@ void endround() {
     platform::attempt(sayendscore);
     input::clk();
     if (rs.c != rs.nocs) platform::attempt(CheckRecords);
-    for (int code = endkey(); code >= key::code::F1 && code <= key::code::F8; code = endkey()) {
-        platform::attempt(sayendscore);   // F1 to F8 repeat the report
-        platform::attempt(SayRecOrNot);
-    }
+    for (int code = endkey(); code >= key::code::F1 && code <= key::code::F8; code = endkey()) repeatend();
     rs.resumed = 0;
 }
 

@@ -2,6 +2,8 @@
 // The routines live in the records room; the round calls them by these names.
 #pragma once
 
+#include "records/courserecord.h"
+#include "records/report.h"
 #include "records/roundlog.h"
 
 namespace play {
@@ -10,11 +12,11 @@ namespace play {
 using records::loggit;
 using records::startlog;
 // Speaks the score of the hole just finished.
-void resaydidonhole();
-// The end of round report, and whether a record fell.
-void sayendscore();
-void SayRecOrNot();
-// The course record.
-void CheckRecords();
+using records::resaydidonhole;
+// The end of round report, its repeat on F1 to F8, and the course record.
+using records::CheckRecords;
+using records::repeatend;
+using records::sayendscore;
+using records::SayRecOrNot;
 
 }  // namespace play

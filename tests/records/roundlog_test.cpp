@@ -1,6 +1,7 @@
 // golflog.txt as a whole round leaves it: the head, two lines a hole, the
-// summary and the record lines, byte for byte; and a resumed round that
-// goes on with the log of the round it saved.
+// summary and the record lines, byte for byte, with the record files and
+// the list of records the first round on a course leaves; and a resumed
+// round that goes on with the log of the round it saved.
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -26,6 +27,13 @@ using caddie::Caddie;
 namespace {
 
 const std::string kCourse1 = " Amateur Green Grass Country Club Rating 65 ";
+
+// The record file of a course nobody has played, byte for byte.
+const std::string kDefaultRecord = std::string(
+    "\x02\x00\x00\x00\x02\x00\x06\x00\x02\x00\x06\x00\x02\x00\xD6\x07\x03\x00\x08\x00\x00\x00"
+    "\x02\x00\x20\x00\x02\x00\x4E\x00\x02\x00\x6F\x00\x02\x00\x20\x00\x02\x00\x4F\x00\x02\x00"
+    "\x6E\x00\x02\x00\x65\x00\x02\x00\x20\x00",
+    54);
 
 std::vector<std::string> scriptLines(const std::string& text) {
     std::vector<std::string> out;
@@ -97,10 +105,41 @@ TEST(RoundLog, AWholeRoundLeavesItsLogByteForByte) {
     std::string want = "Greenlark   By Tobrell\r\n01-05-2024 \r\n" + kCourse1 + "\r\n";
     want += holeLines(c.cards(), 1, 0, 0, counts);
     want += summaryLines(counts);
-    std::string log = slurp(docs + "/brindlewick/golflog.txt");
-    std::filesystem::remove_all(docs);
+    int stks = strokesOf(c.cards());
+    // The first round on the course sets its record.
+    want += "Your score of " + std::to_string(stks) + " sets a new record.\r\nThe old record was 0\r\n on 06-06-2006\r\nBy  No One \r\n";
+    std::string kp = docs + "/brindlewick/";
+    std::string log = slurp(kp + "golflog.txt");
     EXPECT_EQ(log, want);
-    EXPECT_EQ(lineCount(log), 48);
+    EXPECT_EQ(lineCount(log), 52);
+
+    // What was heard: the new record, the applause, the old record's text, the question.
+    auto at = r.sequence({"say \" which sets A-new record! \"", "play golf11", "play golf12", "play golf13",
+                          "say2 \" the record for the  Amateur Green Grass Country Club Rating 65.  was  0 by  No One  on  6 6 2006\"",
+                          "say2 \" Is  Jo  correct for the name of the new record holder? yes \""});
+    EXPECT_GT(at.back(), 0) << r.dump();
+    EXPECT_FALSE(r.has("strokes or"));
+
+    // The course's record: the score with tag 2, today with tag 5, the holder.
+    std::string grf = course::encodevalue({double(stks), 2}) + course::encodevalue({1, 5}) +
+                      course::encodevalue({5, 5}) + course::encodevalue({2024, 5});
+    grf += course::encodevalue({4, 3});
+    for (char ch : std::string(" Jo ")) grf += course::encodevalue({double(ch), 2});
+    EXPECT_EQ(slurp(kp + "golfAmateur Green Grass Country Club Rating 65.grf"), grf);
+    // Every other course got its default record when the list was written.
+    const std::string courses[] = {"Down Hill Country Club Rating 69", "Swamp Grass USA Rating 72",
+                                   "Erie Lake Contry Club rating 69", "Harlo chip and putt golf course rating 48",
+                                   "Ostrey Memorial golf course rating 75"};
+    for (const auto& name : courses) EXPECT_EQ(slurp(kp + "golf" + name + ".grf"), kDefaultRecord) << name;
+    std::string list = "Greenlark   By Tobrell\r\n" + kCourse1 + " record\r\n" + std::to_string(stks) +
+                       "\r\n01-05-2024\r\nBy  Jo \r\n";
+    for (const char* name : {" Down Hill Country Club Rating 69 ", " Swamp Grass USA. Rating 72 ",
+                             " Erie Lake Contry Club rating 69 ", " Harlo chip and putt golf course rating 48 ",
+                             " Ostrey Memorial golf course rating 75 "})
+        list += std::string(name) + " record\r\n0\r\n06-06-2006\r\nBy  No One \r\n";
+    EXPECT_EQ(slurp(kp + "golfrecords.txt"), list);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(kp), {}), 9) << "no record of the random course";
+    std::filesystem::remove_all(docs);
 }
 
 // A saved game at the tee of hole 18 of course 1, as the game writes it.
@@ -136,7 +175,9 @@ TEST(RoundLog, AResumedRoundGoesOnWithTheLogOfTheSavedRound) {
     std::string hole18 = holeLines(last, 18, 67, 80, counts);
     std::string log = slurp(docs + "/brindlewick/golflog.txt");
     std::filesystem::remove_all(docs);
-    EXPECT_EQ(log, before + hole18 + summaryLines(counts)) << "the head is not written again";
+    EXPECT_EQ(log, before + hole18 + summaryLines(counts) + "Your score of " + std::to_string(play::rs.stks) +
+                       " sets a new record.\r\nThe old record was 0\r\n on 06-06-2006\r\nBy  No One \r\n")
+        << "the head is not written again";
     EXPECT_EQ(strokesOf(last), play::rs.stks - 80);
 }
 

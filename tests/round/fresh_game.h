@@ -9,6 +9,7 @@
 #include "input/keys.h"
 #include "platform/platform.h"
 #include "practice/state.h"
+#include "records/state.h"
 #include "round/state.h"
 #include "session/state.h"
 #include "sound/ambient.h"
@@ -28,6 +29,7 @@ inline void freshGame() {
     play::rs = play::RoundState{};
     practice::pr = practice::PracticeState{};
     session::ss = session::SessionState{};
+    records::rc = records::RecordState{};
     platform::os().setKeyHandler([](int code) { input::Form_KeyDown(code); });
     sound::CreateSounds();
     sound::countamb();
