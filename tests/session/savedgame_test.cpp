@@ -266,7 +266,8 @@ TEST_F(SavedGame, EachWayOutOfARoundLeavesTheFileAsItShould) {
 
 TEST_F(SavedGame, TheEndOfTheRoundWritesTheMarker) {
     put(savedFile(kHoleSeven));
-    auto r = simtest::runInProcess("expect \"press any key\"\nkey Space\n", [] {
+    // The round is the course's first: its record falls and the holder is asked for.
+    auto r = simtest::runInProcess("expect \"new record holder? yes\"\nkey Enter\nexpect \"press any key\"\nkey Space\n", [] {
         inplay::freshRound(1);
         rs.hole = 19;
         rs.resumed = 1;
