@@ -35,23 +35,11 @@ const char* const verdictwords[] = {
     " A-double eagle ",
 };
 
-struct Count {
-    int play::RoundState::*counter;
-    const char* label;
-};
-
-const Count counts[] = {
-    {&play::RoundState::BAD, " awful shot"},     {&play::RoundState::DOUBLEBOGEY, " double bo ghee"},
-    {&play::RoundState::Bogey, " bo ghee"},      {&play::RoundState::PARS, " par"},
-    {&play::RoundState::BIRDIE, " birdie"},      {&play::RoundState::EAGLE, " eagle"},
-    {&play::RoundState::DOUEAG, " double eagle"}, {&play::RoundState::HOLEINONE, " hole in one"},
-};
-
 std::string endtext() {
     std::string t = rs.pn + " your score is as follows, ";
-    for (const Count& c : counts) {
+    for (const ScoreCount& c : scorecounts) {
         int n = rs.*c.counter;
-        t += spaced(n) + c.label + (n == 1 ? ". " : "s. ");
+        t += spaced(n) + c.spoken + (n == 1 ? ". " : "s. ");
     }
     t += " par for the " + course::cs.cname[rs.c];
     t = cut(t) + ", is " + course::bare(rs.total) + ". ";

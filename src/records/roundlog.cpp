@@ -27,22 +27,10 @@ std::string logdate() {
     return text;
 }
 
-struct Count {
-    int play::RoundState::*counter;
-    const char* label;
-};
-
-const Count counts[] = {
-    {&play::RoundState::BAD, " awful shot"},     {&play::RoundState::DOUBLEBOGEY, " double bogey"},
-    {&play::RoundState::Bogey, " bogey"},        {&play::RoundState::PARS, " par"},
-    {&play::RoundState::BIRDIE, " birdie"},      {&play::RoundState::EAGLE, " eagle"},
-    {&play::RoundState::DOUEAG, " double eagle"}, {&play::RoundState::HOLEINONE, " hole in one"},
-};
-
 void summary(course::File& f) {
     printline(f, "So you had");
-    for (const Count& c : counts) {
-        printitem(f, bare(rs.*c.counter) + c.label);
+    for (const ScoreCount& c : scorecounts) {
+        printitem(f, bare(rs.*c.counter) + c.logged);
         prts(f, rs.*c.counter);
     }
 }

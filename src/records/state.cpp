@@ -7,6 +7,17 @@ namespace records {
 
 RecordState rc;
 
+const ScoreCount scorecounts[8] = {
+    {&play::RoundState::BAD, " awful shot", " awful shot"},
+    {&play::RoundState::DOUBLEBOGEY, " double bogey", " double bo ghee"},
+    {&play::RoundState::Bogey, " bogey", " bo ghee"},
+    {&play::RoundState::PARS, " par", " par"},
+    {&play::RoundState::BIRDIE, " birdie", " birdie"},
+    {&play::RoundState::EAGLE, " eagle", " eagle"},
+    {&play::RoundState::DOUEAG, " double eagle", " double eagle"},
+    {&play::RoundState::HOLEINONE, " hole in one", " hole in one"},
+};
+
 std::string golog() { return play::kp() + "/golflog.txt"; }
 
 std::string recordsfile() { return play::kp() + "/golfrecords.txt"; }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "course/stored.h"
+#include "round/state.h"
 
 namespace records {
 
@@ -34,6 +35,15 @@ std::string grfpath(int a);
 
 // The title that heads the log and the list of records.
 inline constexpr const char* title = "Greenlark   By Tobrell";
+
+// The eight score counters in the order the log and the end report give
+// them, with the word the log writes and the word the voice is given.
+struct ScoreCount {
+    int play::RoundState::*counter;
+    const char* logged;
+    const char* spoken;
+};
+extern const ScoreCount scorecounts[8];
 
 // A month or day with a "0" before it below 10; the number as it stands
 // otherwise.
