@@ -51,12 +51,23 @@ expect "correct for your name? yes"
 key Enter
 )";
 
-// From the main menu to the first tee of a round on course 1: the script
+// From the main menu to a round begun: entry 1 taken. A saved game is
+// resumed from here; a new round goes on to the course picker.
+inline const char* kMenuToARound = R"(expect " 2. use ball washer "
+key 1
+expect " 1. golf-course "
+key Enter
+)";
+
+// From the main menu to the first tee of a new round on course 1: the script
 // steps that every round scenario begins with, after kToTheMenu.
-inline const char* kMenuToTheTee = "";
+inline const std::string kMenuToTheTee = std::string(kMenuToARound) + R"(expect " Please Pick A-Course To Play. "
+expect " Amateur Green Grass Country Club Rating 65 "
+key Enter
+)";
 
 // From the start of the program to the first tee of course 1.
-inline const std::string kToTheTee = std::string(kToTheMenu) + kMenuToTheTee;
+inline const std::string kToTheTee = kToTheMenu + kMenuToTheTee;
 
 // A new empty temporary folder.
 std::string tempDir();

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "session/picker.h"
 #include "session/savedgame.h"
 
 namespace play {
@@ -16,8 +17,8 @@ using session::deletesave;
 using session::loadcourse;
 using session::loadgame;
 using session::savegame;
-// The player picks a course: c, the log's head, loadcourse.
-void pickcourse();
+// The course picker (session/picker.h): c, the log's head, loadcourse.
+using session::pickcourse;
 // Leaves the program; does not return.
 void leavegame();
 

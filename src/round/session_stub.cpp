@@ -1,9 +1,7 @@
-// Stand-in for the course picker and the leaving until they exist: the
-// course is the one already in c, and leaving stops the sounds, writes the
+// Stand-in for the leaving until it exists: leaving stops the sounds, writes the
 // mark of no saved game unless the player saved, and ends the process. The
 // player's folder is taken from the documents folder until start-up keeps it.
 #include "platform/platform.h"
-#include "round/records.h"
 #include "round/session.h"
 #include "round/state.h"
 #include "sound/bank.h"
@@ -11,11 +9,6 @@
 namespace play {
 
 std::string kp() { return platform::os().documentsFolder() + "/brindlewick"; }
-
-void pickcourse() {
-    platform::attempt([] { startlog(rs.c); });
-    loadcourse();
-}
 
 void leavegame() {
     sound::StopAllSounds();

@@ -5,6 +5,7 @@
 #include "course/course.h"
 #include "course/exists.h"
 #include "course/stored.h"
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "round/session.h"
 #include "round/state.h"
@@ -128,7 +129,9 @@ void loadcourse() {
     else if (rs.c <= course::builtins)
         course::SetHolesData(rs.c);
     else
-        course::GetCusCors(play::kp(), rs.c);
+        platform::attempt([] { course::GetCusCors(play::kp(), rs.c); });
+    input::dy(0.2);
+    input::clk();
 }
 
 }  // namespace session

@@ -7,6 +7,10 @@
 namespace session {
 
 struct SessionState {
+    // ---- the main menu and the course picker
+    int sel = 1;          // pointer of the list in use
+    std::string typed;    // what the player has typed of a course name; kept between picks
+    long stm = 0;         // time of day in whole seconds at which the picker last said an entry
 };
 extern SessionState ss;
 

@@ -42,10 +42,9 @@ std::string moorCourse() {
 
 TEST_F(CustomCourse, AGcxHoleSpeaksItsTextAndWithAFlagOfTwoNoPond) {
     coursefiles::put(kp + "/golfMoor.gcx", moorCourse());
-    auto r = simtest::runInProcess("expect \"next to the green\"\n", [&] {
+    auto r = simtest::runInProcess(roundtest::pickKeys(7) + "expect \"next to the green\"\n", [&] {
         inplay::freshRound(1);
         rs.nocs = course::GetCors(kp);
-        rs.c = 7;
         play::playround();
     }, docs);
     ASSERT_EQ(r.code, 0) << r.dump();

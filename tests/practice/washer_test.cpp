@@ -75,7 +75,9 @@ TEST(BallWasher, AtTheLowestVolumeTheCrowdStillComesOnAndGoesOff) {
 int drive(int washed, std::uint64_t seed, bool resumed) {
     int yds = -1, dirty = -1, wasresumed = -1;
     std::string docs = simtest::tempDir();
-    auto r = runInProcess(std::string("expect \"Select Your Club\"\n") + inplay::kDrive, [&] {
+    // A new round picks the first course; a resumed one has its course.
+    std::string pick = resumed ? "" : roundtest::pickKeys(1);
+    auto r = runInProcess(pick + "expect \"Select Your Club\"\n" + inplay::kDrive, [&] {
         inplay::freshRound(1);
         play::rs.dirty = washed;   // the other ball, as a saved game might hold it
         if (resumed) {

@@ -23,6 +23,7 @@
 #include "sim_harness.h"
 
 using caddie::Caddie;
+using caddie::scriptLines;
 
 namespace {
 
@@ -34,14 +35,6 @@ const std::string kDefaultRecord = std::string(
     "\x02\x00\x20\x00\x02\x00\x4E\x00\x02\x00\x6F\x00\x02\x00\x20\x00\x02\x00\x4F\x00\x02\x00"
     "\x6E\x00\x02\x00\x65\x00\x02\x00\x20\x00",
     54);
-
-std::vector<std::string> scriptLines(const std::string& text) {
-    std::vector<std::string> out;
-    std::istringstream in(text);
-    for (std::string l; std::getline(in, l);)
-        if (!l.empty()) out.push_back(l);
-    return out;
-}
 
 std::string slurp(const std::string& path) {
     std::ifstream in(path, std::ios::binary);

@@ -16,6 +16,8 @@
 #include "sound/bank.h"
 #include "voice/state.h"
 
+#include <string>
+
 namespace roundtest {
 
 inline void freshGame() {
@@ -35,6 +37,17 @@ inline void freshGame() {
     sound::countamb();
     course::fillLocs();
     play::rs.pn = " Jo ";
+}
+
+// The script step that picks course c in the course picker of a new round:
+// a built-in course by its digit, any other by Downs from the first entry.
+inline std::string pickKeys(int c) {
+    std::string keys = "expect \" Please Pick A-Course To Play. \"\nkey";
+    if (c <= 6)
+        keys += c == 1 ? "" : " " + std::to_string(c);
+    else
+        for (int i = 1; i < c; ++i) keys += " Down";
+    return keys + " Enter\n";
 }
 
 }  // namespace roundtest

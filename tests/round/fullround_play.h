@@ -10,6 +10,7 @@
 #include <functional>
 #include <istream>
 #include <optional>
+#include <sstream>
 #include <streambuf>
 #include <string>
 #include <vector>
@@ -18,6 +19,15 @@
 #include "sim_harness.h"
 
 namespace caddie {
+
+// A script as the lines a caddie sends one at a time.
+inline std::vector<std::string> scriptLines(const std::string& text) {
+    std::vector<std::string> out;
+    std::istringstream in(text);
+    for (std::string l; std::getline(in, l);)
+        if (!l.empty()) out.push_back(l);
+    return out;
+}
 
 // Script lines made one at a time, as the runner asks for them.
 class Feed : public std::streambuf {

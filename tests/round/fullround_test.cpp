@@ -41,7 +41,7 @@ void expectCardsOfCourseOne(const Caddie& c, const std::string& dump) {
 }
 
 TEST(FullRound, CourseOneToTheEndWithTheCardAndTheCountersAgreeing) {
-    Caddie c;
+    Caddie c({"expect \" Please Pick A-Course To Play. \"", "key Enter"});   // the first course
     std::vector<int> stk, sank;
     auto r = playInProcess(
         c,
@@ -89,8 +89,7 @@ TEST(FullRound, CourseOneToTheEndWithTheCardAndTheCountersAgreeing) {
 }
 
 TEST(FullRound, CourseOneThroughTheSimulatorByEar) {
-    Caddie c({"expect \"Please enter your name\"", "type Jo", "key Enter", "expect \"correct for your name? yes\"",
-              "key Enter"});
+    Caddie c(caddie::scriptLines(simtest::kToTheTee));
     auto r = playThroughSim(c);
     ASSERT_EQ(r.code, 0) << r.dump();
     expectCardsOfCourseOne(c, r.dump());

@@ -19,6 +19,7 @@
 #include "round/fresh_game.h"
 #include "round/lies.h"
 #include "round/power.h"
+#include "round/session.h"
 #include "round/state.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
@@ -33,7 +34,7 @@ void teeOf(int h) {
     roundtest::freshGame();
     sound::bk.ab = sound::loadbuffer("golf0", 0);   // as start-up leaves it
     rs.c = 1;
-    newround();
+    loadcourse();
     rs.hole = h;
     starthole();
     rs.lie = 1;

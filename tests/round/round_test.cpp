@@ -26,7 +26,7 @@ void freshGame(int c) {
 
 // The first tee of course c, to the end of starthole.
 simtest::Result firstTee(int c) {
-    return runInProcess("expect \"next to the green\"\nend\n", [c] {
+    return runInProcess(roundtest::pickKeys(c) + "expect \"next to the green\"\nend\n", [c] {
         freshGame(c);
         play::newround();
         play::starthole();
@@ -76,7 +76,7 @@ TEST(RoundDescription, WaterIsHeardOnTheSideOfTheLake) {
 // Every hole played in par by a shot that drops the ball, as the green step
 // takes a ball at 0; the rest of the hole is the driver's own.
 TEST(RoundWalk, CourseOneFromTheFirstTeeToTheEnd) {
-    std::string script;
+    std::string script = roundtest::pickKeys(1);
     for (int h = 1; h <= 18; ++h)
         script += "expect \"hole number  " + std::to_string(h) + ".\"\nexpect \"press any key\"\nkey Space\n";
     script += "expect \"press any key\"\nkey F1\nexpect \"press any key\"\nkey Space\nend\n";
@@ -108,7 +108,7 @@ TEST(RoundWalk, CourseOneFromTheFirstTeeToTheEnd) {
 }
 
 TEST(RoundWalk, NewRoundClearsTheFiguresButTheWashedBallStaysClean) {
-    auto r = runInProcess("expect \"next to the green\"\nwait 1\n", [] {
+    auto r = runInProcess(roundtest::pickKeys(1) + "expect \"next to the green\"\nwait 1\n", [] {
         freshGame(1);
         play::rs.washed = 1, play::rs.hole = 7, play::rs.stks = 30, play::rs.total = 28;
         play::rs.PARS = 4, play::rs.HOLEINONE = 1, play::rs.stk = 3, play::rs.hookset = 0;

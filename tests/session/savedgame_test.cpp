@@ -120,6 +120,9 @@ private:
     std::string buf_;
 };
 
+// A saved game is taken up by the menu's first entry, with no picker.
+const std::string resumeScript = simtest::kToTheMenu + std::string(simtest::kMenuToARound);
+
 const char* kSave = R"(key Escape
 expect " save and exit game "
 key Enter
@@ -154,7 +157,7 @@ simtest::Result playAndSaveAt(int stop, const std::string& docs, caddie::Caddie&
 }
 
 TEST_F(SavedGame, SavedAtHoleSevenTheNextRunResumesThereWithTheSameTotal) {
-    caddie::Caddie c;
+    caddie::Caddie c({"expect \" Please Pick A-Course To Play. \"", "key Enter"});   // the first course
     auto first = playAndSaveAt(7, docs, c);
     ASSERT_EQ(first.code, 0) << first.dump();
     ASSERT_EQ(c.cards().size(), 6u) << first.dump();
@@ -173,7 +176,7 @@ TEST_F(SavedGame, SavedAtHoleSevenTheNextRunResumesThereWithTheSameTotal) {
     EXPECT_EQ(saved[15], 1);
     EXPECT_GT(first.find("exit", first.find(" game saved ")), 0) << "saving leaves the program";
 
-    auto second = simtest::runBinary(std::string(simtest::kToTheTee) + "expect \"Select Your Club\"\n" + kSave,
+    auto second = simtest::runBinary(resumeScript + "expect \"Select Your Club\"\n" + kSave,
                                      {"--docs", docs});
     ASSERT_EQ(second.code, 0) << second.dump();
     EXPECT_TRUE(second.has("You are at hole number  7. distance  185 yards. par  3.")) << second.dump();
@@ -215,7 +218,7 @@ TEST_F(SavedGame, SavedAtHoleOneResumedAndSavedAgainCountsTwoSaves) {
     ASSERT_EQ(first.code, 0) << first.dump();
     std::vector<double> want = {1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 5, 1, 3, 1, 1};
     EXPECT_EQ(numbers(slurp(sav)), want) << "total is the par of hole 1";
-    auto second = simtest::runBinary(toTee + kSave, {"--docs", docs});
+    auto second = simtest::runBinary(resumeScript + "expect \"Select Your Club\"\n" + kSave, {"--docs", docs});
     ASSERT_EQ(second.code, 0) << second.dump();
     EXPECT_TRUE(second.has("You are at hole number  1.")) << second.dump();
     want[15] = 2;
@@ -329,7 +332,7 @@ TEST_F(SavedGame, AFileThatHoldsNoWholeSavedGameStartsANewRound) {
     for (const auto& [what, bytes] : files) {
         SCOPED_TRACE(what);
         put(bytes);
-        auto r = simtest::runInProcess("expect \"Select Your Club\"\n", [] {
+        auto r = simtest::runInProcess(roundtest::pickKeys(1) + "expect \"Select Your Club\"\n", [] {
             inplay::freshRound(1);
             play::playround();
         }, docs);
@@ -367,10 +370,9 @@ TEST_F(SavedGame, AParWithARealTagCarriesItsTagIntoTheSavedTotal) {
     h.par = 4;
     h.tag = course::tagDouble;
     coursefiles::put(kp + "/golfwide.gcf", coursefiles::course18(false, h));
-    auto r = simtest::runInProcess("expect \"hole number  1\"\n" + std::string(kSave), [&] {
+    auto r = simtest::runInProcess(roundtest::pickKeys(7) + "expect \"hole number  1\"\n" + std::string(kSave), [&] {
         inplay::freshRound(1);
         rs.nocs = course::GetCors(kp);
-        rs.c = 7;
         play::playround();
     }, docs);
     ASSERT_EQ(r.code, 0) << r.dump();

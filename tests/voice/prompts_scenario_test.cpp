@@ -151,9 +151,12 @@ expect "Please enter your name"
 type Jo
 key Enter Y
 expect " Hello  Jo . "
+)" + simtest::kMenuToTheTee + R"(expect "Select Your Club"
 key Escape
 expect " save and exit game "
-key Down Enter
+key Up Up
+expect " exit program "
+key Enter
 end
 )");
     ASSERT_EQ(r.code, 0) << r.dump();
