@@ -12,6 +12,7 @@
 #include "platform/platform.h"
 #include "platform/rnd.h"
 #include "practice/practice.h"
+#include "records/reading.h"
 #include "round/driver.h"
 #include "round/session.h"
 #include "round/state.h"
@@ -66,10 +67,6 @@ int choose() {
     return ss.sel;
 }
 
-// The log and the records are read by routines of their own; until they
-// are here the entry is said and the menu comes back.
-void notyet(int sel) { voice::say(kEntries[sel - 1]); }
-
 // Entries 2 to 6: what they run.
 void runentry(int sel) {
     switch (sel) {
@@ -79,7 +76,9 @@ void runentry(int sel) {
             break;
         case entry::range: platform::attempt(practice::driving); break;
         case entry::green: platform::attempt(practice::puttting); break;
-        default: notyet(sel); break;
+        case entry::log: platform::attempt(records::ReadLog); break;
+        case entry::records: platform::attempt(records::ReadRecords); break;
+        default: break;
     }
 }
 

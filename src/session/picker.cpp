@@ -95,7 +95,7 @@ void pickcourse() {
     }
     input::clk();
     play::rs.c = ss.sel;
-    play::startlog(play::rs.c);
+    platform::attempt([] { play::startlog(play::rs.c); });
     play::loadcourse();
 }
 

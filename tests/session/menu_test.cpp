@@ -59,6 +59,14 @@ key 6
 expect " 6. reed golf records file "
 key F1
 expect " 2. use ball washer "
+key 5
+expect " 5. reed golf log file "
+key Enter
+expect " Sorry, but there is no golf log file yet. "
+expect " 2. use ball washer "
+key 6 Enter
+expect " Sorry, but there is no golf records file yet. "
+expect " 2. use ball washer "
 key Escape
 expect " 7. exit-game "
 key Enter
@@ -80,9 +88,12 @@ end
     // A digit moves without accepting; F1 puts the pointer back on its first value.
     EXPECT_EQ(spokenAfterKey(r, 54, at), "say2 \" 6. reed golf records file \"");
     EXPECT_EQ(spokenAfterKey(r, 112, at), kSelect);
-    EXPECT_EQ(r.count(kSelect), 3);
+    // The log and the records are read from entries 5 and 6, and the menu
+    // comes back from its start.
+    EXPECT_EQ(r.count(kSelect), 5);
     // Enter on entry 7 ends the program, with nothing more said.
-    int enter = r.find("key 13", at);
+    int enter = -1;
+    for (int i = r.find("key 13"); i >= 0; i = r.find("key 13", i + 1)) enter = i;
     EXPECT_GT(r.find("exit", enter), enter);
     EXPECT_LT(r.find("say", enter), 0) << r.dump();
 }
