@@ -63,6 +63,10 @@ TEST(InPlayLogEntries, TheReviewHoldsAtMost111Entries) {
 // A documents folder whose player folder holds the log text given and a
 // game saved at the first tee of course 1, so that the round goes on with
 // that log instead of starting its own.
+// The saved game of docsWithLog is taken up from the main menu, with no picker.
+const std::string kToTheResumedTee = simtest::kToTheMenu + std::string(simtest::kMenuToARound) +
+                                     "expect \"Select Your Club\"\nexpect \" 1\"\n";
+
 std::string docsWithLog(const std::string& text) {
     std::string docs = simtest::tempDir();
     std::filesystem::create_directories(docs + "/brindlewick");
@@ -76,7 +80,7 @@ std::string docsWithLog(const std::string& text) {
 
 TEST(InPlayLogReview, ArrowsGoRoundTheHolesAndEscapeEndsWithTheReportOfTheStage) {
     std::string docs = docsWithLog(kHead + kHole1 + kHole2);
-    auto r = runBinary(std::string(kToTheTee) + R"(key F7
+    auto r = runBinary(kToTheResumedTee + R"(key F7
 expect "hole number 1"
 key Down
 expect "hole number 2"
@@ -130,7 +134,7 @@ expect "Wedge. "
 
 TEST(InPlayLogReview, InPlayEscapeEndsWithTheShotReport) {
     std::string docs = docsWithLog(kHead + kHole1);
-    auto r = runBinary(std::string(kToTheTee) + kDrive + R"(key F7
+    auto r = runBinary(kToTheResumedTee + kDrive + R"(key F7
 expect "hole number 1"
 key Escape
 expect "shot went"
@@ -146,7 +150,7 @@ expect "shot went"
 
 TEST(InPlayLogReview, OpensWithTheHeadOnlyAndWithNoLogAtAll) {
     std::string docs = docsWithLog(kHead);
-    auto head = runBinary(std::string(kToTheTee) + "key F7\nexpect \"Oakmere\"\nkey Escape\nexpect \"next to\"\n",
+    auto head = runBinary(kToTheResumedTee + "key F7\nexpect \"Oakmere\"\nkey Escape\nexpect \"next to\"\n",
                           {"--docs", docs});
     std::filesystem::remove_all(docs);
     ASSERT_EQ(head.code, 0) << head.dump();
