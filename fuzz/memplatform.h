@@ -16,12 +16,14 @@ namespace fuzz {
 class MemPlatform : public platform::Platform {
 public:
     std::map<std::string, std::string> files;   // full path -> bytes
+    std::uint32_t ms = 0;                         // the clock
 
     void showWindow(const std::string&) override {}
     void setKeyHandler(std::function<void(int)>) override {}
     void setCloseHandler(std::function<void()>) override {}
-    void yield() override {}
-    std::uint32_t tick() override { return 0; }
+    // Each turn of the event loop is a millisecond, so that a pause ends.
+    void yield() override { ++ms; }
+    std::uint32_t tick() override { return ms; }
     void dueAt(std::uint32_t) override {}
     void messageBox(const std::string&) override {}
     void beep() override {}
