@@ -16,6 +16,7 @@
 #include "round/driver.h"
 #include "round/session.h"
 #include "round/state.h"
+#include "session/settings.h"
 #include "session/state.h"
 #include "sound/bank.h"
 #include "voice/patterns.h"
@@ -85,6 +86,7 @@ void runentry(int sel) {
 }  // namespace
 
 void mainmenu() {
+    wiresettings();
     // A program that has not read the place names and the catalogue yet
     // reads them before the first round.
     if (course::cs.locs[1].empty()) course::fillLocs();

@@ -1,11 +1,15 @@
-// Stand-ins until the settings are written: nothing changes.
+// The F-key hooks of the settings.
 #include "session/settings.h"
+
+#include "input/keys.h"
 
 namespace session {
 
-void getplayername() {}
-void adjrate() {}
-void adjvol() {}
-void changevoice(int) {}
+void wiresettings() {
+    auto& f = input::fkeys;
+    if (!f.adjrate) f.adjrate = adjrate;
+    if (!f.adjvol) f.adjvol = adjvol;
+    if (!f.changevoice2) f.changevoice2 = [] { changevoice(2); };
+}
 
 }  // namespace session
