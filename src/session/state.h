@@ -11,6 +11,9 @@ struct SessionState {
     int sel = 1;          // pointer of the list in use
     std::string typed;    // what the player has typed of a course name; kept between picks
     long stm = 0;         // time of day in whole seconds at which the picker last said an entry
+    // ---- the voice
+    int nv = 0;           // index of the voice in the voice list
+    int vv = 95;          // the voice's volume, 0..100; one step of F11 is 5
 };
 extern SessionState ss;
 

@@ -5,6 +5,7 @@
 #include "platform/platform.h"
 #include "round/state.h"
 #include "session/settings.h"
+#include "session/state.h"
 #include "sound/bank.h"
 #include "sound/wave_table.h"
 #include "voice/speech.h"
@@ -26,8 +27,8 @@ void nextvoice() {
     auto& os = platform::os();
     platform::attempt([&] { os.setCurrentPosition(bk.sb, 0); });
     platform::attempt([&] { os.play(bk.sb, 1); });
-    vs.nv += 1;
-    if (vs.nv > nov()) vs.nv = 0;
+    ss.nv += 1;
+    if (ss.nv > nov()) ss.nv = 0;
     makevoice();
 }
 
@@ -81,12 +82,12 @@ int nov() {
 
 void makevoice() {
     auto& os = platform::os();
-    if (vs.nv < 0 || vs.nv > nov()) vs.nv = 0;
+    if (ss.nv < 0 || ss.nv > nov()) ss.nv = 0;
     platform::attempt([&] { os.releaseVoice(); });
     platform::attempt([&] { os.createVoice(); });
     platform::attempt([&] { os.setRate(vs.vr); });
-    platform::attempt([&] { os.setVoice(vs.nv); });
-    platform::attempt([&] { os.setVolume(vs.vv); });
+    platform::attempt([&] { os.setVoice(ss.nv); });
+    platform::attempt([&] { os.setVolume(ss.vv); });
 }
 
 void changevoice(int a) {

@@ -6,10 +6,10 @@
 #include "input/keys.h"
 #include "platform/platform.h"
 #include "session/settings.h"
+#include "session/state.h"
 #include "sound/bank.h"
 #include "sound/wave_table.h"
 #include "voice/speech.h"
-#include "voice/state.h"
 
 namespace session {
 
@@ -17,13 +17,12 @@ namespace {
 
 using input::ks;
 using sound::bk;
-using voice::vs;
 
 constexpr int loudestVoice = 100, voiceStep = 5;
 constexpr int loudest = 0, quietest = -5000, soundStep = 100;
 
 void setvoicevolume() {
-    platform::attempt([] { platform::os().setVolume(vs.vv); });
+    platform::attempt([] { platform::os().setVolume(ss.vv); });
 }
 
 // The voice: at 0 it says " minimum " at once.
@@ -33,10 +32,10 @@ void voicestage() {
                     "  Press enter when you have the volume set the way that you want it. ");
         input::getkey();
         while (ks.g == key::Up || ks.g == key::Down) {
-            vs.vv += ks.g == key::Up ? voiceStep : -voiceStep;
+            ss.vv += ks.g == key::Up ? voiceStep : -voiceStep;
             const char* word = ks.g == key::Up ? " louder " : " quieter ";
-            if (vs.vv >= loudestVoice) vs.vv = loudestVoice, word = " maximum ";
-            if (vs.vv <= 0) vs.vv = 0, word = " minimum ";
+            if (ss.vv >= loudestVoice) ss.vv = loudestVoice, word = " maximum ";
+            if (ss.vv <= 0) ss.vv = 0, word = " minimum ";
             setvoicevolume();
             voice::say2(word);
             input::getkey();

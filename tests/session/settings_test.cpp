@@ -8,6 +8,7 @@
 
 #include "round/fresh_game.h"
 #include "session/settings.h"
+#include "session/state.h"
 #include "sim_harness.h"
 #include "sound/bank.h"
 #include "voice/state.h"
@@ -93,13 +94,13 @@ end
 )",
                                    [] {
                                        roundtest::freshGame();
-                                       voice::vs.vv = 10;
+                                       session::ss.vv = 10;
                                        sound::bk.wavol = -4900;
                                        sound::bk.wavol2 = -100;
                                        session::adjvol();
                                    });
     ASSERT_EQ(r.code, 0) << r.dump();
-    EXPECT_EQ(voice::vs.vv, 0);
+    EXPECT_EQ(session::ss.vv, 0);
     EXPECT_EQ(sound::bk.wavol, -5000);
     EXPECT_EQ(sound::bk.wavol2, 0);
     // The voice at 5 and then 0; the effects at -5000 twice, the sample
