@@ -9,6 +9,10 @@
 #include "course/course.h"
 #include "course/stored.h"
 #include "course/textfile.h"
+#include "records/coursefile.h"
+#include "records/courserecord.h"
+#include "records/roundlog.h"
+#include "records/state.h"
 #include "fuzz/memplatform.h"
 #include "round/state.h"
 #include "session/savedgame.h"
@@ -98,6 +102,12 @@ std::string log() {
     return f.bytes;
 }
 
+// A record of 71 strokes set by Jo on a date read from the system.
+records::Record jo() {
+    return {course::Num{71}, course::Num{11, course::tagDouble}, course::Num{22, course::tagDouble},
+            course::Num{2026, course::tagDouble}, " Jo "};
+}
+
 std::string saved(int hole, int c) {
     play::rs = play::RoundState{};
     play::rs.hole = hole;
@@ -112,6 +122,42 @@ std::string wave(int rate, int n) {
     std::vector<std::int16_t> pcm;
     for (int i = 0; i < n; ++i) pcm.push_back(std::int16_t((i % 16) * 1000 - 8000));
     return wavegen::waveBytes(pcm, rate);
+}
+
+// A round log as the game writes it: the head, eighteen holes with the
+// summary behind the last, and the lines of a record that fell.
+std::string roundlog(fuzz::MemPlatform& mem) {
+    course::cs = course::Course{};
+    course::SetHolesData(1);
+    course::fillBuiltinNames();
+    play::rs = play::RoundState{};
+    records::startlog(1);
+    for (int hole = 1; hole <= 18; ++hole) {
+        play::rs.hole = hole;
+        play::rs.par = course::cs.H[hole][1];
+        play::rs.stk = play::rs.par + hole % 3 - 1;
+        play::rs.total += play::rs.par;
+        play::rs.stks += play::rs.stk;
+        ++(hole % 3 == 0 ? play::rs.Bogey : hole % 3 == 1 ? play::rs.BIRDIE : play::rs.PARS);
+        records::loggit();
+    }
+    records::rc.old0 = course::Num{80};
+    records::rc.old1 = course::Num{6}, records::rc.old2 = course::Num{6}, records::rc.old3 = course::Num{2006};
+    records::rc.oldpn = " No One ";
+    records::doendlog();
+    return mem.files[records::golog()];
+}
+
+// golfrecords.txt as the game writes it: the built-in courses, one of them
+// with a record set by Jo.
+std::string recordlist(fuzz::MemPlatform& mem) {
+    course::cs = course::Course{};
+    course::fillBuiltinNames();
+    play::rs = play::RoundState{};
+    play::rs.nocs = 7;
+    records::writerecord(records::grfpath(2), jo());
+    records::dorecs();
+    return mem.files[records::recordsfile()];
 }
 
 }  // namespace
@@ -135,5 +181,7 @@ int main(int argc, char** argv) {
     seed("wave", {wave(22050, 64), wave(11025, 9), cut.substr(0, cut.size() - 7)});
     seed("script", {"# a round\nkey Enter\nwait 1.5\nexpect \" Welcome \\\" \\x41 \"\ntype \"abc\"\nat golf3 50 Space\nexpect-sound golf16\nquiet\nkey F4 Num3 #190 # three keys\nclose\nend\n"});
     seed("logreview", {log(), "only\r\none\n"});
+    seed("records", {records::recordbytes(records::defaultrecord()), records::recordbytes(jo())});
+    seed("readlog", {std::string(1, '\1') + roundlog(mem), std::string(1, '\0') + recordlist(mem)});
     return 0;
 }
