@@ -17,7 +17,9 @@
 #include "course/coursefiles.h"
 #include "course/stored.h"
 #include "platform/platform.h"
+#include "records/coursefile.h"
 #include "round/driver.h"
+#include "round/fresh_game.h"
 #include "round/inplay_support.h"
 #include "round/session.h"
 #include "round/state.h"
@@ -215,6 +217,37 @@ TEST_F(Faults, ACourseOfAbsurdNumbersIsPlayedAndLeft) {
     EXPECT_TRUE(r.has("shot went")) << r.dump();
     EXPECT_EQ(slurp(kp + "/golfwild.gcx"), bytes);
     EXPECT_EQ(slurp(kp + "/golfgame.sav"), std::string("\x02\x00\x00\x00", 4)) << r.dump();
+}
+
+// Failure provoked: the record file of the course played is cut short in
+// its holder's name, or holds random bytes, so it cannot be read at the end
+// of the round. The record is neither said nor renewed, the end report and
+// its wait come as always, and the file stays as it was.
+TEST_F(Faults, ARecordFileCutShortOrOfRandomBytesIsLeftAndTheRoundEnds) {
+    const std::string grf = kp + "/golfAmateur Green Grass Country Club Rating 65.grf";
+    const std::string whole = records::recordbytes(
+        {course::Num{70}, course::Num{12}, course::Num{25}, course::Num{2006}, " Ann "});
+    std::mt19937 gen(7);
+    std::string noise(whole.size(), '\0');
+    for (char& ch : noise) ch = char(gen());
+    for (const std::string& bytes : {whole.substr(0, whole.size() - 3), noise}) {
+        coursefiles::put(grf, bytes);
+        auto r = simtest::runInProcess("expect \"press any key to continue\"\nkey Space\nend\n", [] {
+            roundtest::freshGame();
+            rs.nocs = course::GetCors(play::kp());
+            rs.c = 1, rs.stks = 70, rs.total = 72;
+            play::endround();
+        }, docs);
+        ASSERT_EQ(r.code, 0) << r.dump();
+        int report = r.find("your score is as follows");
+        EXPECT_GE(report, 0) << r.dump();
+        EXPECT_GT(r.find("press any key to continue"), report) << r.dump();
+        EXPECT_FALSE(r.has("the record for the")) << r.dump();
+        EXPECT_FALSE(r.has("record!"));
+        EXPECT_FALSE(r.has("holder"));
+        EXPECT_EQ(slurp(grf), bytes);
+        EXPECT_FALSE(fs::exists(kp + "/golfrecords.txt")) << "no list is written from a record not read";
+    }
 }
 
 }  // namespace
