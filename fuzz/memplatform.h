@@ -24,6 +24,7 @@ public:
     // Each turn of the event loop is a millisecond, so that a pause ends.
     void yield() override { ++ms; }
     std::uint32_t tick() override { return ms; }
+    void setEndHandler(std::function<void()>) override {}
     void dueAt(std::uint32_t) override {}
     void messageBox(const std::string&) override {}
     void beep() override {}

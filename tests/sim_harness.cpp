@@ -9,10 +9,16 @@
 #include <sstream>
 #include <sys/wait.h>
 
+#include "input/keys.h"
 #include "platform/platform.h"
 #include "platform/sim/runner.h"
 #include "platform/sim/sim_platform.h"
 #include "platform/sim/transcript.h"
+#include "sound/bank.h"
+#include "voice/getter.h"
+#include "voice/patterns.h"
+#include "voice/speech.h"
+#include "voice/state.h"
 
 namespace simtest {
 
@@ -96,10 +102,10 @@ Result runBinary(const std::string& script, const std::vector<std::string>& opti
 namespace {
 
 void runOn(std::istream& in, bool live, const std::function<void()>& program, Result& r, const std::string& docs,
-           const std::string& game, std::uint32_t tickStart = 0) {
+           const std::string& game, std::uint32_t tickStart = 0, double timeout = 900) {
     captured = &r.lines;
     sim::setSink(capture);
-    sim::Runner runner(in, live, 900);
+    sim::Runner runner(in, live, timeout);
     std::string error;
     if (!runner.preload(error)) {
         r.code = 2;
@@ -131,10 +137,10 @@ void runOn(std::istream& in, bool live, const std::function<void()>& program, Re
 }  // namespace
 
 Result runInProcess(const std::string& script, const std::function<void()>& program, const std::string& docs,
-                    const std::string& game) {
+                    const std::string& game, double timeoutSeconds) {
     Result r;
     std::istringstream in(script);
-    runOn(in, false, program, r, docs, game);
+    runOn(in, false, program, r, docs, game, 0, timeoutSeconds);
     return r;
 }
 
@@ -147,6 +153,26 @@ Result runInProcessFromTick(std::uint32_t tickStart, const std::string& script, 
 
 void runInProcessLive(std::istream& in, const std::function<void()>& program, Result& r, const std::string& docs) {
     runOn(in, true, program, r, docs, GREENLARK_GAME_DIR);
+}
+
+void namePrompt() {
+    input::ks = input::KeyState{};
+    input::fkeys = input::FKeyRoutines{};
+    input::fkeys.stopAbAndClaps = sound::stopAbAndClaps;
+    voice::vs = voice::VoiceState{};
+    platform::os().setKeyHandler([](int code) { input::Form_KeyDown(code); });
+    while (true) {
+        input::clk();
+        voice::getter(" Please enter your name. ");
+        if (input::ks.g == key::Escape) return;
+        std::string name = " " + voice::vs.r + " ";
+        voice::Question q;
+        q.text = " Is " + name + " correct for your name?";
+        if (voice::yesno(q)) {
+            voice::say(" Hello " + name + ". ");
+            return;
+        }
+    }
 }
 
 }  // namespace simtest

@@ -31,7 +31,8 @@ Result runBinary(const std::string& script, const std::vector<std::string>& opti
 // The runner in this process around program, with default options but the
 // docs folder given (empty: none).
 Result runInProcess(const std::string& script, const std::function<void()>& program,
-                    const std::string& docs = "", const std::string& game = GREENLARK_GAME_DIR);
+                    const std::string& docs = "", const std::string& game = GREENLARK_GAME_DIR,
+                    double timeoutSeconds = 900);
 
 // The same with the platform's tick count starting at tickStart.
 Result runInProcessFromTick(std::uint32_t tickStart, const std::string& script, const std::function<void()>& program);
@@ -44,10 +45,36 @@ void runInProcessLive(std::istream& in, const std::function<void()>& program, Re
 
 // From the start of the program to the main menu's first " select ": the
 // one place that knows the opening, so that a change there changes only it.
+// A first run: no golf.cfg, so the special keys are read unasked.
 inline const char* kToTheMenu = R"(expect "Please enter your name"
 type Jo
 key Enter
 expect "correct for your name? yes"
+key Enter
+expect "select power indicator sound files"
+key Enter
+expect "Would you like to read the instructions? yes"
+key N
+expect "Would you like to read the special key instructions? no"
+key N
+expect "Would you like to read the hints? yes"
+key N
+)";
+
+// The same for a later run, with a golf.cfg in the player's folder: the
+// three questions come with no.
+inline const char* kToTheMenuAgain = R"(expect "Please enter your name"
+type Jo
+key Enter
+expect "correct for your name? yes"
+key Enter
+expect "select power indicator sound files"
+key Enter
+expect "Would you like to read the instructions? no"
+key Enter
+expect "Would you like to read the special key instructions? no"
+key Enter
+expect "Would you like to read the hints? no"
 key Enter
 )";
 
@@ -67,7 +94,13 @@ key Enter
 )";
 
 // From the start of the program to the first tee of course 1.
-inline const std::string kToTheTee = kToTheMenu + kMenuToTheTee;
+inline const std::string kToTheTee = std::string(kToTheMenu) + kMenuToTheTee;
+inline const std::string kToTheTeeAgain = std::string(kToTheMenuAgain) + kMenuToTheTee;
+
+// A small program for tests of the runner and of the prompts: the key event
+// wired, then the player's name asked with getter and read back with the
+// yes/no question until yes (" Hello NAME . ") or Escape at the name.
+void namePrompt();
 
 // A new empty temporary folder.
 std::string tempDir();

@@ -52,6 +52,9 @@ public:
     virtual void setKeyHandler(std::function<void(int)> onKey) = 0;
     // Runs on the window's close command, inside a yield.
     virtual void setCloseHandler(std::function<void()> onClose) = 0;
+    // Runs inside a yield when the system asks the program to end (SIGTERM,
+    // SIGINT); the handler ends the process. Without one the process ends.
+    virtual void setEndHandler(std::function<void()> onEnd) = 0;
     // One turn of the event loop: queued key and close events run here.
     virtual void yield() = 0;
     // Milliseconds from a monotonic clock.

@@ -4,12 +4,13 @@
 
 #include <string>
 
+#include "session/leaving.h"
 #include "session/picker.h"
 #include "session/savedgame.h"
 
 namespace play {
 
-// The player's folder kp: the documents folder + "/brindlewick".
+// The player's folder kp, as start-up found it.
 std::string kp();
 // The saved game and the course loader (session/savedgame.h).
 using session::clearsave;
@@ -19,7 +20,7 @@ using session::loadgame;
 using session::savegame;
 // The course picker (session/picker.h): c, the log's head, loadcourse.
 using session::pickcourse;
-// Leaves the program; does not return.
-void leavegame();
+// Leaves the program; does not return (session/leaving.h).
+using session::leavegame;
 
 }  // namespace play

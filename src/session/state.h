@@ -14,6 +14,12 @@ struct SessionState {
     // ---- the voice
     int nv = 0;           // index of the voice in the voice list
     int vv = 95;          // the voice's volume, 0..100; one step of F11 is 5
+    // ---- start-up, golf.cfg and the way out
+    std::string kp;      // the player's folder, without a closing slash
+    std::string golog;   // kp + "/golflog.txt": the round log
+    int mm = 0, dd = 0, yy = 0;   // today's month, day and year
+    int qr = 0;          // 1 once shutdown has released everything: the window may close
+    int playdeck = 0;    // 1 when the launcher lies in the current folder
 };
 extern SessionState ss;
 

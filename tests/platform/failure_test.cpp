@@ -41,18 +41,18 @@ TEST(Failures, EachAbandonedStepIsOneQuotedLine) {
 
 // The checks find every wave file in the working folder, but the opening
 // jingle is loaded from the program's folder, where it is missing: the
-// jingle is skipped without a word and the name question comes as always.
+// jingle is skipped without a word and the title comes as always.
 TEST(Failures, AMissingSoundFileIsAFailLineAndTheGameGoesOn) {
     std::string game = simtest::tempDir();
     for (const auto& e : fs::directory_iterator(GREENLARK_GAME_DIR))
         if (e.path().filename() != "golf0.wav") fs::create_symlink(e.path(), game + "/" + e.path().filename().string());
-    auto r = simtest::runBinary("expect \"Please enter your name\"\n",
+    auto r = simtest::runBinary("expect \"Greenlark. version eleven\"\n",
                                 {"--game", game, "--cwd", GREENLARK_GAME_DIR});
     fs::remove_all(game);
     ASSERT_EQ(r.code, 0) << r.dump();
     int fail = r.find("fail \"cannot read " + game + "/golf0.wav: No such file or directory\"");
     EXPECT_GE(fail, 0) << r.dump();
-    EXPECT_GT(r.find("Please enter your name", fail), fail) << r.dump();
+    EXPECT_GT(r.find("Greenlark. version eleven", fail), fail) << r.dump();
     EXPECT_FALSE(r.has("play golf0")) << r.dump();
     EXPECT_EQ(r.count("fail "), 1) << r.dump();
 }

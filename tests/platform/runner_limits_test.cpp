@@ -39,9 +39,9 @@ TEST(RunnerLimits, AWaitPastTheTimeoutIsAScriptItCannotRead) {
 
 TEST(RunnerLimits, ALongTypeCountsItsTimeoutFromTheLastKey) {
     // Forty letters take four virtual seconds, twice the timeout.
-    auto r = runBinary("expect \"Please enter\"\ntype abcdefghijabcdefghijabcdefghijabcdefghij\nkey Enter\n"
-                       "expect \"correct for your name\"\n",
-                       {"--timeout", "2"});
+    auto r = simtest::runInProcess("expect \"Please enter\"\ntype abcdefghijabcdefghijabcdefghijabcdefghij\nkey Enter\n"
+                                   "expect \"correct for your name\"\n",
+                                   simtest::namePrompt, "", GREENLARK_GAME_DIR, 2);
     EXPECT_EQ(r.code, 0) << r.err;
     EXPECT_TRUE(r.has(" abcdefghijabcdefghijabcdefghijabcdefghij  correct for your name"));
     // A step that waits on after its last key still runs out.
@@ -59,7 +59,8 @@ TEST(RunnerLimits, ControlCharactersAreEscapedAndReadBack) {
 
     // Key 0 in the name prompt names its character, a NUL: the line stays
     // whole and an expect can wait for it.
-    auto r = runBinary("expect \"Please enter\"\nkey #0\nexpect \"Please use\"\nkey #9\nexpect \"\\x09\"\n");
+    auto r = simtest::runInProcess("expect \"Please enter\"\nkey #0\nexpect \"Please use\"\nkey #9\nexpect \"\\x09\"\n",
+                                   simtest::namePrompt);
     ASSERT_EQ(r.code, 0) << r.dump();
     EXPECT_TRUE(r.has("say2 \"\\x00\"")) << r.dump();
     EXPECT_TRUE(r.has("say2 \"\\x09\"")) << r.dump();

@@ -1,7 +1,8 @@
 // The state of a program that has just started, for tests that run round
 // routines in this process: every shared struct made anew, the key event
 // wired as start-up wires it, the sounds made, the ambient files counted,
-// the place names filled and the player named " Jo ".
+// the place names filled, the player named " Jo " and the player's folder
+// the documents folder + "/brindlewick".
 #pragma once
 
 #include "course/course.h"
@@ -37,6 +38,7 @@ inline void freshGame() {
     sound::countamb();
     course::fillLocs();
     play::rs.pn = " Jo ";
+    session::ss.kp = platform::os().documentsFolder() + "/brindlewick";
 }
 
 // The script step that picks course c in the course picker of a new round:

@@ -223,6 +223,7 @@ TEST(InPlayEscMenu, QuitWithNoSavedGameStillLeaves) {
 }
 
 TEST(InPlayEscMenu, SaveAndExitAndExitProgramEndTheProgram) {
+    const char* kThanks = "say \" Thank you for playing Greenlark. By Tobrell \"";
     struct Case {
         int savestate;
         const char* keys;
@@ -230,8 +231,8 @@ TEST(InPlayEscMenu, SaveAndExitAndExitProgramEndTheProgram) {
         const char* said;   // after Enter, before the end
     } cases[] = {
         {1, "key Enter\nend\n", 1, "say \" game saved \""},
-        {1, "key Up Up\nexpect \" exit program \"\nkey Enter\nend\n", 0, ""},
-        {2, "key Up\nexpect \" exit program \"\nkey Enter\nend\n", 0, ""},
+        {1, "key Up Up\nexpect \" exit program \"\nkey Enter\nend\n", 0, kThanks},
+        {2, "key Up\nexpect \" exit program \"\nkey Enter\nend\n", 0, kThanks},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.keys);

@@ -45,7 +45,7 @@ TEST(RoundScenario, FirstTeeDescriptionThenTheClubPrompt) {
                                          "expect \" save and exit game \"\nkey Down Enter\n"
                                          "expect \" select \"\nexpect \" 2. use ball washer \"\n");
     ASSERT_EQ(r.code, 0) << r.dump();
-    int hello = r.find("say \" Hello  Jo . \"");
+    int hello = r.find("say2 \" Is  Jo  correct for your name? yes \"");
     int desc = r.find(
         "say2 \" Jo  You are at hole number  1. distance  501 yards. par  5. on your left is  Deep Rough."
         " on your right is  Trees. next to the green is A-pond and A-sand trap. \"");

@@ -23,6 +23,7 @@
 #include "platform/rnd.h"
 #include "round/driver.h"
 #include "round/fresh_game.h"
+#include "session/state.h"
 #include "round/fullround_caddie.h"
 #include "round/inplay.h"
 #include "round/inplay_support.h"
@@ -72,7 +73,10 @@ struct SavedGame : ::testing::Test {
     std::string docs = simtest::tempDir();
     std::string kp = docs + "/brindlewick";
     std::string sav = kp + "/golfgame.sav";
-    void SetUp() override { std::filesystem::create_directories(kp); }
+    void SetUp() override {
+        std::filesystem::create_directories(kp);
+        session::ss.kp = kp;
+    }
     void TearDown() override {
         platform::files::faults() = platform::files::Faults{};
         std::filesystem::remove_all(docs);
@@ -120,8 +124,9 @@ private:
     std::string buf_;
 };
 
-// A saved game is taken up by the menu's first entry, with no picker.
-const std::string resumeScript = simtest::kToTheMenu + std::string(simtest::kMenuToARound);
+// A saved game is taken up by the menu's first entry, with no picker, in a
+// later run: the run that saved wrote golf.cfg.
+const std::string resumeScript = simtest::kToTheMenuAgain + std::string(simtest::kMenuToARound);
 
 const char* kSave = R"(key Escape
 expect " save and exit game "
@@ -133,7 +138,7 @@ expect " game saved "
 // player saves and leaves.
 simtest::Result playAndSaveAt(int stop, const std::string& docs, caddie::Caddie& c) {
     std::deque<std::string> save = {"expect \"Select Your Club\"", "key Escape", "expect \" save and exit game \"",
-                                    "key Enter", "expect \" game saved \""};
+                                    "key Enter", "expect \" game saved \"", "end"};
     const std::string tee = "You are at hole number  " + std::to_string(stop) + ".";
     simtest::Result out;
     size_t heard = 0;

@@ -1,6 +1,9 @@
 // The platform's life, its window and its event loop.
 #include "platform/real/sdl_platform.h"
 
+#include <signal.h>
+
+#include <csignal>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -8,11 +11,32 @@
 
 namespace platform::real {
 
+namespace {
+
+// Set by SIGTERM or SIGINT; the next yield runs the end handler. A signal
+// handler may do no more than this.
+volatile std::sig_atomic_t endAsked = 0;
+
+void askEnd(int) { endAsked = 1; }
+
+void catchEndSignals() {
+    struct sigaction sa {};
+    sa.sa_handler = askEnd;
+    sigemptyset(&sa.sa_mask);
+    sa.sa_flags = SA_RESTART;
+    sigaction(SIGTERM, &sa, nullptr);
+    sigaction(SIGINT, &sa, nullptr);
+}
+
+}  // namespace
+
 SdlPlatform::SdlPlatform() {
     const char* trace = std::getenv("GREENLARK_TRACE");
     trace_ = trace && std::string(trace) == "1";
-    // SIGINT and SIGTERM keep their default action: they end the program.
+    // SIGINT and SIGTERM end the program through the game's end handler, at
+    // the next yield; SDL does not turn them into a close command.
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    catchEndSignals();
     SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Greenlark");
     if (SDL_Init(SDL_INIT_VIDEO | SDL_INIT_EVENTS) != 0)
         throw std::runtime_error(std::string("cannot start SDL: ") + SDL_GetError());
@@ -103,7 +127,15 @@ bool SdlPlatform::nextEvent(SDL_Event& e) {
     return ms > 0 && SDL_WaitEventTimeout(&e, ms);
 }
 
+void SdlPlatform::endIfAsked() {
+    if (!endAsked) return;
+    endAsked = 0;
+    if (onEnd_) onEnd_();
+    endProcess();
+}
+
 void SdlPlatform::yield() {
+    endIfAsked();
     SDL_Event e;
     if (!nextEvent(e)) return;
     deliver(e);

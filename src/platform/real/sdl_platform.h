@@ -35,6 +35,7 @@ public:
     void showWindow(const std::string& caption) override;
     void setKeyHandler(std::function<void(int)> onKey) override { onKey_ = std::move(onKey); }
     void setCloseHandler(std::function<void()> onClose) override { onClose_ = std::move(onClose); }
+    void setEndHandler(std::function<void()> onEnd) override { onEnd_ = std::move(onEnd); }
     void yield() override;
     std::uint32_t tick() override { return SDL_GetTicks(); }
     std::uint64_t clockSeed() override;
@@ -86,6 +87,8 @@ private:
     void openAudio();
     void deliver(const SDL_Event& e);
     bool nextEvent(SDL_Event& e);
+    // A SIGTERM or SIGINT came: the end handler runs.
+    void endIfAsked();
     // The mixer; throws Failure when the sound device is not open.
     Mixer& openMixer();
     // The mixer for a call on game sound `id`; throws Failure when the sound
@@ -103,6 +106,7 @@ private:
     std::string caption_;
     std::function<void(int)> onKey_;
     std::function<void()> onClose_;
+    std::function<void()> onEnd_;
     Pacer pacer_;
     std::uint32_t wakeEvent_ = 0;
     bool sdlUp_ = false;

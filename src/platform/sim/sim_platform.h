@@ -41,6 +41,8 @@ public:
     void showWindow(const std::string& caption) override;
     void setKeyHandler(std::function<void(int)> onKey) override { onKey_ = std::move(onKey); }
     void setCloseHandler(std::function<void()> onClose) override { onClose_ = std::move(onClose); }
+    // No script asks the program to end.
+    void setEndHandler(std::function<void()>) override {}
     void yield() override;
     std::uint32_t tick() override { return std::uint32_t(opt_.tickStart + clock_); }
     // The script's seed, or else the tick count.
