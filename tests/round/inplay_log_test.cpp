@@ -156,7 +156,9 @@ TEST(InPlayLogReview, OpensWithTheHeadOnlyAndWithNoLogAtAll) {
     ASSERT_EQ(head.code, 0) << head.dump();
     EXPECT_EQ(spokenAfter(head, head.find("key 118")), "say2 \" Oakmere Links   Oakmere Links \"");
 
+    // A file where the player's folder should be: the log cannot be started.
     std::string empty = simtest::tempDir();
+    std::ofstream(empty + "/brindlewick") << "";
     auto none = runBinary(std::string(kToTheTee) + "key F7\nwait 1\nkey Down\nwait 1\nkey Escape\nexpect \"next to\"\n",
                           {"--docs", empty});
     std::filesystem::remove_all(empty);

@@ -219,7 +219,7 @@ TEST_F(SavedGame, AResumedRoundRaisesTheTotalAgainFromTheNextHole) {
 
 TEST_F(SavedGame, SavedAtHoleOneResumedAndSavedAgainCountsTwoSaves) {
     const std::string toTee = std::string(simtest::kToTheTee) + "expect \"Select Your Club\"\n";
-    auto first = simtest::runBinary(toTee + kSave, {"--docs", docs});
+    auto first = simtest::runBinary(toTee + kSave + "end\n", {"--docs", docs});
     ASSERT_EQ(first.code, 0) << first.dump();
     std::vector<double> want = {1, 1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 5, 1, 3, 1, 1};
     EXPECT_EQ(numbers(slurp(sav)), want) << "total is the par of hole 1";
