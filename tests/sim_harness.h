@@ -45,11 +45,14 @@ void runInProcessLive(std::istream& in, const std::function<void()>& program, Re
 
 // From the start of the program to the main menu's first " select ": the
 // one place that knows the opening, so that a change there changes only it.
-// A first run: no golf.cfg, so the special keys are read unasked.
+// A first run: no golf.cfg, so the name is asked for and the special keys
+// are read unasked.
 inline const char* kToTheMenu = R"(expect "Please enter your name"
 type Jo
 key Enter
 expect "correct for your name? yes"
+key Enter
+expect "do you wish to use this voice."
 key Enter
 expect "select power indicator sound files"
 key Enter
@@ -61,12 +64,12 @@ expect "Would you like to read the hints? yes"
 key N
 )";
 
-// The same for a later run, with a golf.cfg in the player's folder: the
-// three questions come with no.
-inline const char* kToTheMenuAgain = R"(expect "Please enter your name"
-type Jo
+// The same for a later run, with a golf.cfg in the player's folder that
+// holds the name Jo: the name is offered, and the three questions come with
+// no.
+inline const char* kToTheMenuAgain = R"(expect "Is  Jo  correct for your name? yes"
 key Enter
-expect "correct for your name? yes"
+expect "do you wish to use this voice."
 key Enter
 expect "select power indicator sound files"
 key Enter

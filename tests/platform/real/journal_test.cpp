@@ -137,6 +137,7 @@ const Step kToTheFirstShot[] = {
     {"# say2 \"j\"", "o"},
     {"# say2 \"o\"", "Return"},
     {"correct for your name? yes \"", "Return"},
+    {"do you wish to use this voice.  yes \"", "Return"},
     {"# say2 \" regular \"", "Return"},
     {"read the instructions? yes \"", "n"},
     {"# say2 \" Special key instructions.", "space"},
