@@ -22,9 +22,9 @@ int number(course::File& f) { return course::whole(course::readnumber(f)); }
 void readfrom(const std::string& path) {
     course::File f = course::openread(path);
     play::rs.pn = course::readfield(f);
-    voice::vs.nv = number(f);
+    ss.nv = number(f);
     voice::vs.vr = number(f);
-    voice::vs.vv = number(f);
+    ss.vv = number(f);
     sound::bk.wavol = number(f);
     sound::bk.wavol2 = number(f);
     sound::bk.cowtog = number(f);
@@ -51,7 +51,7 @@ void writeconfig() {
     using course::printed;
     course::File f = course::openreplace(ss.kp + "/" + cfgName);
     course::printline(f, play::rs.pn);
-    for (int n : {voice::vs.nv, voice::vs.vr, voice::vs.vv, sound::bk.wavol, sound::bk.wavol2, sound::bk.cowtog, sound::bk.powav,
+    for (int n : {ss.nv, voice::vs.vr, ss.vv, sound::bk.wavol, sound::bk.wavol2, sound::bk.cowtog, sound::bk.powav,
                   voice::vs.keytog})
         course::printline(f, printed(n));
     course::printline(f);

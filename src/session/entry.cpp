@@ -52,9 +52,9 @@ void novoices() {
 }
 
 void defaults() {
-    voice::vs.nv = 0;
+    ss.nv = 0;
     voice::vs.vr = 0;
-    voice::vs.vv = 95;
+    ss.vv = 95;
     bk.wavol = 0;
     bk.wavol2 = 0;
     bk.powav = 0;

@@ -24,10 +24,10 @@ using sound::bk;
 // The voice as the settings say; a voice index past the list gives voice 0.
 void openvoice() {
     auto& os = platform::os();
-    if (voice::vs.nv < 0 || voice::vs.nv > nov()) voice::vs.nv = 0;
-    platform::attempt([&] { os.setVoice(voice::vs.nv); });
+    if (ss.nv < 0 || ss.nv > nov()) ss.nv = 0;
+    platform::attempt([&] { os.setVoice(ss.nv); });
     os.yield();
-    platform::attempt([&] { os.setVolume(voice::vs.vv); });
+    platform::attempt([&] { os.setVolume(ss.vv); });
     os.yield();
     platform::attempt([&] { os.setRate(voice::vs.vr); });
     os.yield();
