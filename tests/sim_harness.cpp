@@ -75,6 +75,13 @@ std::string tempDir() {
     return mkdtemp(tmpl.data());
 }
 
+std::string slurp(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
 Result runBinary(const std::string& script, const std::vector<std::string>& options) {
     std::string dir = tempDir();
     std::string scriptPath = dir + "/script.sim", errPath = dir + "/stderr";

@@ -108,4 +108,7 @@ void namePrompt();
 // A new empty temporary folder.
 std::string tempDir();
 
+// The bytes of a file; empty when it cannot be read.
+std::string slurp(const std::string& path);
+
 }  // namespace simtest

@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 
 #include "course/exists.h"
@@ -24,12 +23,7 @@ File reading(const std::string& bytes) {
     return f;
 }
 
-std::string slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream ss;
-    ss << in.rdbuf();
-    return ss.str();
-}
+using simtest::slurp;
 
 TEST(TextNumber, ThreeForms) {
     EXPECT_EQ(course::printed(7), " 7 ");

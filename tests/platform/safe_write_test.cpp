@@ -12,7 +12,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 
 #include "platform/files.h"
@@ -22,12 +21,7 @@ namespace files = platform::files;
 
 namespace {
 
-std::string slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream ss;
-    ss << in.rdbuf();
-    return ss.str();
-}
+using simtest::slurp;
 
 int entries(const std::string& dir) {
     int n = 0;

@@ -5,7 +5,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 
 #include "course/catalogue.h"
@@ -25,12 +24,7 @@ using play::rs;
 const std::string kGrf = "golfAmateur Green Grass Country Club Rating 65.grf";
 const std::string kRecordOf = " the record for the  Amateur Green Grass Country Club Rating 65. ";
 
-std::string slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
+using simtest::slurp;
 
 std::string stored(const std::string& name) {
     std::string out = encodevalue({double(name.size()), 3});

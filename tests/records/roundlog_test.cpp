@@ -6,7 +6,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -36,12 +35,7 @@ const std::string kDefaultRecord = std::string(
     "\x6E\x00\x02\x00\x65\x00\x02\x00\x20\x00",
     54);
 
-std::string slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
+using simtest::slurp;
 
 int lineCount(const std::string& text) {
     int n = 0;

@@ -8,7 +8,6 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -30,12 +29,7 @@ using play::rs;
 
 namespace {
 
-std::string slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream ss;
-    ss << in.rdbuf();
-    return ss.str();
-}
+using simtest::slurp;
 
 // A saved game as the game writes it, at hole `hole` of course `c`.
 std::string savedAt(int hole, int c) {

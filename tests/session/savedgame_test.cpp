@@ -10,7 +10,6 @@
 #include <optional>
 #include <streambuf>
 #include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -30,17 +29,13 @@
 #include "round/session.h"
 #include "round/state.h"
 #include "session/savedgame.h"
+#include "sim_harness.h"
 
 using play::rs;
 
 namespace {
 
-std::string slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream ss;
-    ss << in.rdbuf();
-    return ss.str();
-}
+using simtest::slurp;
 
 // The values of a value file, in order.
 std::vector<course::Num> values(const std::string& bytes) {
