@@ -7,6 +7,7 @@
 #include "records/dates.h"
 #include "records/state.h"
 #include "round/state.h"
+#include "session/startup.h"
 
 namespace records {
 
@@ -20,10 +21,9 @@ using play::rs;
 
 // The system date as MM-DD-YYYY with its leading zeros, and a blank.
 std::string logdate() {
-    long m = 0, d = 0, y = 0;
-    if (!datenumbers(systemdate(), m, d, y)) m = d = 11, y = 2001;
+    session::Date d = session::readdate(systemdate());
     char text[40];
-    std::snprintf(text, sizeof text, "%02ld-%02ld-%04ld ", m, d, y);
+    std::snprintf(text, sizeof text, "%02d-%02d-%04d ", d.mm, d.dd, d.yy);
     return text;
 }
 

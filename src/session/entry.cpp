@@ -81,6 +81,7 @@ void today() {
     ss.mm = d.mm;
     ss.dd = d.dd;
     ss.yy = d.yy;
+    ss.datefell = d.fell;
 }
 
 // The name, then the voice.

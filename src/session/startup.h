@@ -15,11 +15,12 @@ void otc();
 
 struct Date {
     int mm = 0, dd = 0, yy = 0;
+    bool fell = false;   // the text could not be taken apart
 };
 // Today's date from the system's short date text, month first; a text that
 // cannot be taken apart gives 11/11/2001.
 Date readdate(const std::string& text);
-inline constexpr Date fallbackDate{11, 11, 2001};
+inline constexpr Date fallbackDate{11, 11, 2001, true};
 
 // golf.cfg, golf0, the voice, golf1, the random ending, the place names and
 // the title.

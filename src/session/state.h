@@ -18,6 +18,7 @@ struct SessionState {
     std::string kp;      // the player's folder, without a closing slash
     std::string golog;   // kp + "/golflog.txt": the round log
     int mm = 0, dd = 0, yy = 0;   // today's month, day and year
+    bool datefell = false;        // the date text could not be read: 11, 11, 2001
     int qr = 0;          // 1 once shutdown has released everything: the window may close
     int playdeck = 0;    // 1 when the launcher lies in the current folder
 };

@@ -14,6 +14,7 @@
 #include "round/fresh_game.h"
 #include "round/session.h"
 #include "round/state.h"
+#include "session/state.h"
 #include "sim_harness.h"
 
 namespace {
@@ -45,6 +46,8 @@ std::string docsWithRecord(int strokes, int month, int monthTag, int day, int ye
 // The end of a round on course 1 with the score and par given.
 void endOfRound(int stks, int total) {
     roundtest::freshGame();
+    // The date start-up takes from the simulated clock.
+    session::ss.mm = 11, session::ss.dd = 22, session::ss.yy = 2026;
     rs.nocs = course::GetCors(play::kp());
     rs.c = 1, rs.stks = stks, rs.total = total;
 }
