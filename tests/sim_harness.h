@@ -5,7 +5,10 @@
 #include <cstdint>
 #include <functional>
 #include <istream>
+#include <optional>
+#include <streambuf>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace simtest {
@@ -104,6 +107,27 @@ inline const std::string kToTheTeeAgain = std::string(kToTheMenuAgain) + kMenuTo
 // wired, then the player's name asked with getter and read back with the
 // yes/no question until yes (" Hello NAME . ") or Escape at the name.
 void namePrompt();
+
+// Script lines made one at a time, as the live runner asks for them: next
+// gives the following line, or nothing at the end of the script.
+class Feed : public std::streambuf {
+public:
+    explicit Feed(std::function<std::optional<std::string>()> next) : next_(std::move(next)) {}
+
+protected:
+    int_type underflow() override {
+        if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
+        auto line = next_();
+        if (!line) return traits_type::eof();
+        buf_ = *line + "\n";
+        setg(buf_.data(), buf_.data(), buf_.data() + buf_.size());
+        return traits_type::to_int_type(*gptr());
+    }
+
+private:
+    std::function<std::optional<std::string>()> next_;
+    std::string buf_;
+};
 
 // A new empty temporary folder.
 std::string tempDir();

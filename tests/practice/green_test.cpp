@@ -166,25 +166,7 @@ TEST(PracticeGreen, TheF1TextsAndAKeyThatCutsThem) {
     EXPECT_FALSE(cut.goon);
 }
 
-// Script lines made one at a time, as the runner asks for them.
-class Feed : public std::streambuf {
-public:
-    explicit Feed(std::function<std::optional<std::string>()> next) : next_(std::move(next)) {}
-
-protected:
-    int_type underflow() override {
-        if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
-        auto line = next_();
-        if (!line) return traits_type::eof();
-        buf_ = *line + "\n";
-        setg(buf_.data(), buf_.data(), buf_.data() + buf_.size());
-        return traits_type::to_int_type(*gptr());
-    }
-
-private:
-    std::function<std::optional<std::string>()> next_;
-    std::string buf_;
-};
+using simtest::Feed;
 
 // The feet of the last ball told before the end of the transcript.
 int lastBall(const simtest::Result& r) {

@@ -29,25 +29,7 @@ inline std::vector<std::string> scriptLines(const std::string& text) {
     return out;
 }
 
-// Script lines made one at a time, as the runner asks for them.
-class Feed : public std::streambuf {
-public:
-    explicit Feed(std::function<std::optional<std::string>()> next) : next_(std::move(next)) {}
-
-protected:
-    int_type underflow() override {
-        if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
-        auto line = next_();
-        if (!line) return traits_type::eof();
-        buf_ = *line + "\n";
-        setg(buf_.data(), buf_.data(), buf_.data() + buf_.size());
-        return traits_type::to_int_type(*gptr());
-    }
-
-private:
-    std::function<std::optional<std::string>()> next_;
-    std::string buf_;
-};
+using simtest::Feed;
 
 // The live runner around program in this process; after each line the
 // caddie gives, watch runs inside the program's wait.

@@ -99,25 +99,7 @@ TEST_F(SavedGame, TheMarkerIsFourBytesAndAFullSaveSixtyFour) {
 
 // ---- saved at a tee and taken up again
 
-// Script lines made one at a time, as the live runner asks for them.
-class Feed : public std::streambuf {
-public:
-    explicit Feed(std::function<std::optional<std::string>()> next) : next_(std::move(next)) {}
-
-protected:
-    int_type underflow() override {
-        if (gptr() < egptr()) return traits_type::to_int_type(*gptr());
-        auto line = next_();
-        if (!line) return traits_type::eof();
-        buf_ = *line + "\n";
-        setg(buf_.data(), buf_.data(), buf_.data() + buf_.size());
-        return traits_type::to_int_type(*gptr());
-    }
-
-private:
-    std::function<std::optional<std::string>()> next_;
-    std::string buf_;
-};
+using simtest::Feed;
 
 // A saved game is taken up by the menu's first entry, with no picker, in a
 // later run: the run that saved wrote golf.cfg.
