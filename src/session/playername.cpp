@@ -1,13 +1,13 @@
 // The player's name: the one golf.cfg holds is offered first.
 #include <string>
 
-#include "course/exists.h"
 #include "course/stored.h"
 #include "course/textfile.h"
 #include "input/keys.h"
 #include "platform/platform.h"
-#include "round/session.h"
+#include "session/config.h"
 #include "session/settings.h"
+#include "session/state.h"
 #include "voice/getter.h"
 #include "voice/patterns.h"
 #include "voice/state.h"
@@ -18,14 +18,14 @@ namespace {
 
 using voice::vs;
 
-// The first line of golf.cfg, from beside the program and then from the
-// player's folder, the second overriding the first.
+// The first line of golf.cfg, from the same two places as the settings,
+// the second overriding the first.
 void storedname() {
-    for (const std::string& path : {std::string("golf.cfg"), play::kp() + "/golf.cfg"}) {
+    for (const std::string& folder : {std::string(), ss.kp}) {
         platform::attempt([&] {
-            std::string found = course::findfile(path, course::NameRule::lowerCase);
-            if (found.empty()) return;
-            course::File f = course::openread(found);
+            std::string path = cfgpath(folder);
+            if (path.empty()) return;
+            course::File f = course::openread(path);
             vs.r = course::readfield(f);
         });
     }
