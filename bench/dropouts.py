@@ -2,10 +2,11 @@
 """Counts the dropouts of each start of the game, for dropouts.sh.
 
 A dropout in the recording is a run of 32 frames or more in which both
-channels are exactly zero, with sound above -50 dBFS in the 32 frames on
+channels are exactly zero, with sound above -50 dBFS in the 8 frames on
 either side: what a null sink plays when a stream runs dry in the middle of
-a sound. The game's own silences fade out or are long and quiet at their
-edges. The recording is placed in time as in key_latency/analyze.py, and
+a sound, cutting the wave where it stands. The game's own silences (the
+pauses of speech) fade to zero and rise again from it, so their edges are
+far quieter. The recording is placed in time as in key_latency/analyze.py, and
 each start's frames are those played between its start and its end.
 
 An underrun is the sound server's report that the game's stream ran out
@@ -22,7 +23,7 @@ import numpy as np
 
 RATE = 48000
 MIN_RUN = 32
-EDGE = 32
+EDGE = 8
 LOUD = 32768 * 10 ** (-50 / 20)
 STREAM = "'Audio Stream'"
 
