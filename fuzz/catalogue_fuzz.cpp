@@ -6,11 +6,7 @@
 #include "platform/names.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
-    static fuzz::MemPlatform* mem = [] {
-        auto* p = new fuzz::MemPlatform;
-        platform::install(p);
-        return p;
-    }();
+    fuzz::MemPlatform* mem = &fuzz::installed();
     const std::string kp = "/docs/brindlewick";
     mem->files.clear();
     fuzz::Pieces in{data, size};

@@ -86,6 +86,18 @@ public:
     void failed(const std::string&) override {}
 };
 
+// The platform of type P, made and installed the first time a target asks
+// for it; every later input of the run finds the same one.
+template <class P = MemPlatform>
+P& installed() {
+    static P* p = [] {
+        auto* made = new P;
+        platform::install(made);
+        return made;
+    }();
+    return *p;
+}
+
 // Takes pieces off the fuzz input: a piece is its length (one byte, or two
 // little-endian bytes for a big one) and its bytes; a length past the end
 // takes what is left.

@@ -22,11 +22,7 @@ struct Listener : fuzz::MemPlatform {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
-    static Listener* mem = [] {
-        auto* p = new Listener;
-        platform::install(p);
-        return p;
-    }();
+    Listener* mem = &fuzz::installed<Listener>();
     if (size == 0) return 0;
     bool log = data[0] & 1;
     mem->files.clear();

@@ -11,8 +11,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
     static fuzz::MemPlatform* mem = [] {
-        auto* p = new fuzz::MemPlatform;
-        platform::install(p);
+        auto* p = &fuzz::installed();
         course::cs = course::Course{};
         course::SetHolesData(1);
         course::fillBuiltinNames();

@@ -7,11 +7,7 @@
 #include "session/savedgame.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, size_t size) {
-    static fuzz::MemPlatform* mem = [] {
-        auto* p = new fuzz::MemPlatform;
-        platform::install(p);
-        return p;
-    }();
+    fuzz::MemPlatform* mem = &fuzz::installed();
     const std::string kp = "/docs/brindlewick";
     mem->files.clear();
     fuzz::Pieces in{data, size};

@@ -15,7 +15,11 @@
 #include "records/state.h"
 #include "fuzz/memplatform.h"
 #include "round/state.h"
+#include "session/config.h"
 #include "session/savedgame.h"
+#include "session/state.h"
+#include "sound/bank.h"
+#include "voice/state.h"
 #include "../tools/wavegen/finish.h"
 
 namespace {
@@ -160,6 +164,22 @@ std::string recordlist(fuzz::MemPlatform& mem) {
     return mem.files[records::recordsfile()];
 }
 
+// golf.cfg as the game writes it, its first `lines` lines: ten, or the
+// seven of an older file.
+std::string config(fuzz::MemPlatform& mem, int lines) {
+    play::rs = play::RoundState{};
+    play::rs.pn = " Jo ";
+    session::ss.kp = "/docs/brindlewick";
+    session::ss.nv = 2, voice::vs.vr = 3, session::ss.vv = 80;
+    sound::bk.wavol = -300, sound::bk.wavol2 = -200, sound::bk.cowtog = 1, sound::bk.powav = 1;
+    voice::vs.keytog = 1;
+    session::writeconfig();
+    const std::string& all = mem.files[session::ss.kp + "/" + session::cfgName];
+    size_t end = 0;
+    for (int line = 0; line < lines; ++line) end = all.find("\r\n", end) + 2;
+    return all.substr(0, end);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -168,8 +188,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     root = argv[1];
-    fuzz::MemPlatform mem;
-    platform::install(&mem);
+    fuzz::MemPlatform& mem = fuzz::installed();
     seed("stored", {values(), strings()});
     seed("textfile", {std::string(1, '\0') + text(), std::string(1, '\x55') + text()});
     seed("course", {std::string(1, '\0') + gcf(1), std::string(1, '\1') + gcx(5)});
@@ -183,5 +202,9 @@ int main(int argc, char** argv) {
     seed("logreview", {log(), "only\r\none\n"});
     seed("records", {records::recordbytes(records::defaultrecord()), records::recordbytes(jo())});
     seed("readlog", {std::string(1, '\1') + roundlog(mem), std::string(1, '\0') + recordlist(mem)});
+    // The first byte: 1 golf.cfg in the player's folder, 2 beside the
+    // program (the first piece), 3 both.
+    seed("config", {std::string(1, '\1') + config(mem, 10), std::string(1, '\1') + config(mem, 7),
+                    std::string(1, '\3') + piece(config(mem, 10), true) + config(mem, 7)});
     return 0;
 }

@@ -33,9 +33,12 @@ struct Num {
 int widest(int a, int b);
 Num operator+(Num a, Num b);
 
+// The widest whole number a reader takes from a file, either way: sums and
+// steps on it cannot overflow.
+inline constexpr int wholeBound = 1000000;
 // v as a whole number held within -bound..bound: NaN gives 0, the rest is
 // rounded to the nearest, a half to the even neighbour.
-int whole(double v, int bound = 1000000);
+int whole(double v, int bound = wholeBound);
 
 struct File {
     enum Mode { reading, replacing, appending };
