@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 """Time from silencing the voice to the last audible sample, from
-bench_record's recording and the "cut NS" lines of bench_voices.
+bench_record's recording and the "cut NS" lines that voice_latency.sh notes
+for the keys that silence the game.
 
 usage: cutoff.py RECPREFIX KEYSFILE
 """
