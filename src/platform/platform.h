@@ -38,6 +38,9 @@ inline constexpr int speakQueue = 1;   // queues and returns
 inline constexpr int speakPurge = 2;   // silences and empties the queue
 // runningState while anything is being spoken.
 inline constexpr int speechRunning = 2;
+// The voice's rate: 0 normal, each step about ten per cent faster. A voice
+// goes this many steps either way and no further.
+inline constexpr int fastestRate = 10;
 // getStatus of a buffer.
 inline constexpr int statusPlaying = 1;   // a once-through play runs
 inline constexpr int statusLooping = 5;

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "platform/platform.h"
 #include "platform/real/speech_text.h"
 
 namespace platform::real {
@@ -40,7 +41,8 @@ std::vector<DispatcherVoice> offeredVoices(const std::string& module,
     return {{module, "", module + " default voice"}, {module, first->first, module + " " + first->first}};
 }
 
-int dispatcherRate(int rate) { return std::clamp(rate * 10, -100, 100); }
+// Ten of the dispatcher's points a step.
+int dispatcherRate(int rate) { return std::clamp(rate, -fastestRate, fastestRate) * 10; }
 
 int dispatcherVolume(int volume) { return std::clamp(volume, 0, 100) * 2 - 100; }
 

@@ -1,5 +1,6 @@
 #include "platform/sim/sim_platform.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/files.h"
@@ -71,7 +72,8 @@ double SimPlatform::speechMs(const std::string& text) const {
     size_t chars = 0;
     for (char c : text)
         if ((static_cast<unsigned char>(c) & 0xC0) != 0x80) ++chars;
-    return 60.0 * double(chars) * std::pow(1.1, -rate_);
+    int rate = std::clamp(rate_, -platform::fastestRate, platform::fastestRate);
+    return 60.0 * double(chars) * std::pow(1.1, -rate);
 }
 
 void SimPlatform::speak(const std::string& text, int flag) {
