@@ -67,11 +67,9 @@ expect "Would you like to read the hints? yes"
 key N
 )";
 
-// The same for a later run, with a golf.cfg in the player's folder that
-// holds the name Jo: the name is offered, and the three questions come with
-// no.
-inline const char* kToTheMenuAgain = R"(expect "Is  Jo  correct for your name? yes"
-key Enter
+// A later run from the name offered and kept to the main menu: the three
+// questions come with no.
+inline const char* kNameKeptToTheMenu = R"(key Enter
 expect "do you wish to use this voice."
 key Enter
 expect "select power indicator sound files"
@@ -82,6 +80,19 @@ expect "Would you like to read the special key instructions? no"
 key Enter
 expect "Would you like to read the hints? no"
 key Enter
+)";
+
+// The same for a later run, with a golf.cfg in the player's folder that
+// holds the name Jo: the name is offered.
+inline const std::string kToTheMenuAgain =
+    std::string("expect \"Is  Jo  correct for your name? yes\"\n") + kNameKeptToTheMenu;
+
+// From the main menu out of the program by Escape and entry 7.
+inline const char* kMenuToTheEnd = R"(expect " 2. use ball washer "
+key Escape
+expect " 7. exit-game "
+key Enter
+end
 )";
 
 // From the main menu to a round begun: entry 1 taken. A saved game is

@@ -244,4 +244,72 @@ TEST_F(Faults, ARecordFileCutShortOrOfRandomBytesIsLeftAndTheRoundEnds) {
     }
 }
 
+// Failure provoked: golf.cfg cut short in the middle of its fifth line, the
+// effects volume, with a rate far slower than any voice goes before it. What
+// stands before the cut is taken as it stands, the volume as far as its
+// digits go, and the rest keep their defaults; the reading stops at the cut
+// with a fail line and nothing said. The voice speaks at its slowest, and at
+// the end the ten lines are written whole.
+TEST_F(Faults, AGolfCfgCutShortInALineKeepsWhatStandsBeforeTheCut) {
+    const std::string cfg = kp + "/golf.cfg";
+    coursefiles::put(cfg, " Ann \r\n 2 \r\n-1000000 \r\n 80 \r\n-3");
+    auto r = simtest::runBinary(std::string("expect \" Is  Ann  correct for your name? yes \"\n") +
+                                    simtest::kNameKeptToTheMenu + simtest::kMenuToTheEnd,
+                                {"--docs", docs});
+    ASSERT_EQ(r.code, 0) << r.dump();
+    int title = r.find("say \" Greenlark. version eleven, By Tobrell \"");
+    int fail = r.find("fail \"");
+    ASSERT_GE(fail, 0) << r.dump();
+    EXPECT_LT(fail, title);
+    EXPECT_NE(r.lines[size_t(fail)].find("golf.cfg"), std::string::npos) << r.lines[size_t(fail)];
+    EXPECT_EQ(r.count("fail \""), 1) << r.dump();
+    int golf0 = r.find("play golf0 #");
+    ASSERT_GE(golf0, 0) << r.dump();
+    EXPECT_NE(r.lines[size_t(golf0)].find("vol=-3"), std::string::npos) << r.lines[size_t(golf0)];
+    for (const char* set : {"voice 2", "rate -1000000", "volume 80"}) EXPECT_LT(r.find(set), title) << set;
+    auto heard = r.sequence({"say2 \"  Ann  select power indicator sound files \"", "say2 \" regular \"",
+                             "say2 \" Ann  Would you like to read the instructions? no \"", "say2 \" select \"",
+                             "say \" Thank you for playing Greenlark. By Tobrell \""});
+    EXPECT_GE(heard.back(), 0) << r.dump();
+    EXPECT_EQ(slurp(cfg), " Ann \r\n 2 \r\n-1000000 \r\n 80 \r\n-3 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n\r\n");
+}
+
+// Failure provoked: golf.cfg of random bytes. Its first field, the bytes up
+// to the first comma or line end, is offered as the name and kept; no field
+// behind it spells a number, so each setting it reaches is 0, and the reading
+// stops at the end of the file. The opening runs in its later-run form to the
+// menu and out, nothing but the reading of golf.cfg fails, and at the end
+// golf.cfg holds ten whole lines.
+TEST_F(Faults, AGolfCfgOfRandomBytesIsReadAsFarAsItGoesAndWrittenWhole) {
+    const std::string cfg = kp + "/golf.cfg";
+    for (unsigned seed : {1u, 3u, 5u}) {
+        SCOPED_TRACE(seed);
+        std::mt19937 gen(seed);
+        std::string noise(300, '\0');
+        for (char& ch : noise) ch = char(gen());
+        coursefiles::put(cfg, noise);
+        auto r = simtest::runBinary(std::string("expect \"correct for your name? yes \"\n") +
+                                        simtest::kNameKeptToTheMenu + simtest::kMenuToTheEnd,
+                                    {"--docs", docs});
+        ASSERT_EQ(r.code, 0) << r.dump();
+        auto heard = r.sequence({"say \" Greenlark. version eleven, By Tobrell \"", "correct for your name? yes \"",
+                                 "Would you like to read the instructions? no \"", "say2 \" select \"",
+                                 "say \" Thank you for playing Greenlark. By Tobrell \""});
+        EXPECT_GE(heard.back(), 0) << r.dump();
+        for (int at = r.find("fail \""); at >= 0; at = r.find("fail \"", at + 1))
+            EXPECT_NE(r.lines[size_t(at)].find("golf.cfg"), std::string::npos) << r.lines[size_t(at)];
+        std::vector<std::string> lines;
+        std::string written = slurp(cfg);
+        for (size_t from = 0, end; (end = written.find("\r\n", from)) != std::string::npos; from = end + 2)
+            lines.push_back(written.substr(from, end - from));
+        ASSERT_EQ(lines.size(), 10u) << written;
+        EXPECT_TRUE(written.ends_with("\r\n\r\n"));
+        ASSERT_GT(lines[0].size(), 2u);
+        size_t named = lines[0].size() - 2;
+        EXPECT_EQ(lines[0], " " + noise.substr(0, named) + " ");
+        EXPECT_NE(std::string(",\r\n").find(noise[named]), std::string::npos) << int(noise[named]);
+        for (size_t i = 1; i <= 8; ++i) EXPECT_EQ(lines[i], " 0 ") << "line " << i + 1;
+    }
+}
+
 }  // namespace

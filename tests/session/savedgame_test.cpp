@@ -103,7 +103,7 @@ using simtest::Feed;
 
 // A saved game is taken up by the menu's first entry, with no picker, in a
 // later run: the run that saved wrote golf.cfg.
-const std::string resumeScript = simtest::kToTheMenuAgain + std::string(simtest::kMenuToARound);
+const std::string resumeScript = simtest::kToTheMenuAgain + simtest::kMenuToARound;
 
 const char* kSave = R"(key Escape
 expect " save and exit game "

@@ -23,14 +23,6 @@ const char* kInstructions =
     "percent of full swing to produce your results. Obviously, the more you  play  and  learn the subtleties of "
     "club swing percent, the  better  you  will score. WHAT? YOU THOUGHT THIS WAS GOING TO BE EASY? ";
 
-// From the main menu out of the program by Escape and entry 7.
-const char* kLeave = R"(expect " 2. use ball washer "
-key Escape
-expect " 7. exit-game "
-key Enter
-end
-)";
-
 std::string slurp(const std::string& path) {
     std::ifstream f(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(f), std::istreambuf_iterator<char>()};
@@ -68,7 +60,7 @@ expect " Golf Hints."
 key Space
 expect " Jo  Would you like to read the hints? yes "
 key N
-)" + std::string(kLeave),
+)" + std::string(simtest::kMenuToTheEnd),
                            {"--docs", docs});
     ASSERT_EQ(first.code, 0) << first.dump();
     auto order = first.sequence({"say \" Greenlark. version eleven, By Tobrell \"",
@@ -99,7 +91,7 @@ expect " Ann  Would you like to read the special key instructions? no "
 key Enter
 expect " Ann  Would you like to read the hints? no "
 key Enter
-)" + std::string(kLeave),
+)" + std::string(simtest::kMenuToTheEnd),
                            {"--docs", docs});
     ASSERT_EQ(later.code, 0) << later.dump();
     int title = later.find("Greenlark. version eleven");
@@ -143,7 +135,7 @@ TEST(Leaving, WithALauncherBesideTheProgramItIsStartedAndNothingIsSaidOfIt) {
     for (const auto& e : fs::directory_iterator(GREENLARK_GAME_DIR))
         fs::create_symlink(e.path(), cwd + "/" + e.path().filename().string());
     put(cwd + "/playdeck", "#!/bin/sh\n");
-    auto r = runBinary(simtest::kToTheMenu + std::string(kLeave), {"--cwd", cwd, "--docs", docs});
+    auto r = runBinary(simtest::kToTheMenu + std::string(simtest::kMenuToTheEnd), {"--cwd", cwd, "--docs", docs});
     fs::remove_all(cwd);
     ASSERT_EQ(r.code, 0) << r.dump();
     auto order = r.sequence({"say \" Thank you for playing Greenlark. By Tobrell \"", "release golf1 #",
