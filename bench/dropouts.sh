@@ -27,6 +27,7 @@ done
 BUILD=
 for b in "${BUILDS[@]}"; do [ -z "$BUILD" ] && [ "$b" != tone ] && BUILD=$b; done
 [ -n "$BUILD" ] || { echo "name a build folder besides tone"; exit 1; }
+rig_need_game
 rig_need bench_record
 [[ " ${BUILDS[*]} " == *" tone "* ]] && rig_need bench_tone
 

@@ -12,6 +12,7 @@ DRIVER=${2:-dummy}
 SECONDS_MEASURED=${3:-10}
 PLACE=${4:-name}
 . "$HERE/rig.sh"
+rig_need_game
 
 rig_xvfb || exit 1
 [ "$DRIVER" = pulseaudio ] && rig_pulse

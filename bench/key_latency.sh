@@ -12,6 +12,7 @@ BUILD=$(cd "${1:-$HERE/../build-real}" && pwd)
 PRESSES=${2:-40}
 INTERVAL=${3:-400}
 . "$HERE/rig.sh"
+rig_need_game
 rig_need bench_record bench_keys
 
 rig_pulse
@@ -23,8 +24,7 @@ rig_track $GAME
 WINDOW=$(rig_window) || { echo "the game's window never came"; exit 1; }
 # Past the opening jingle and the prompt; the recorder has settled by then.
 sleep 6
-"$BUILD/bench/bench_keys" "$WINDOW" "$PRESSES" "$INTERVAL" a b c d e f g h i j k l m n o p q r s t u v w x y z \
-  >"$RIG/keys"
+rig_letters "$WINDOW" "$PRESSES" "$INTERVAL" "$RIG/keys"
 sleep 0.5
 kill -9 $GAME
 wait $GAME 2>/dev/null

@@ -7,6 +7,9 @@
 #   rig_xvfb       starts Xvfb on a free display (sets DISPLAY)
 #   rig_window     waits for the game's window, prints its id
 #   rig_track PID  stops PID when the script ends
+#   rig_need TOOL...  stops unless the build has these benchmark programs
+#   rig_need_game  stops unless the build has the game and its sound files
+#   rig_letters WINDOW PRESSES INTERVAL OUT  presses letter keys, notes when
 
 RIG=$(mktemp -d "${TMPDIR:-/tmp}/greenlark-bench-XXXXXX")
 RIG_PIDS=()
@@ -72,6 +75,19 @@ rig_need() {
   for tool in "$@"; do
     [ -x "$BUILD/bench/$tool" ] || { echo "build $tool first (ninja -C $BUILD $tool)"; exit 1; }
   done
+}
+
+# Stops unless BUILD has the game and its sound files: without them the game
+# stops at its file check and nothing is heard.
+rig_need_game() {
+  [ -x "$BUILD/game/greenlark" ] || { echo "build the game first (ninja -C $BUILD greenlark)"; exit 1; }
+  [ -e "$BUILD/game/golf0.wav" ] || { echo "build the sound files first (ninja -C $BUILD greenlark-waves)"; exit 1; }
+}
+
+# Presses PRESSES letter keys, INTERVAL ms apart, in the game's WINDOW and
+# writes each press with its time to OUT (bench_keys' "send NS KEY" lines).
+rig_letters() {
+  "$BUILD/bench/bench_keys" "$1" "$2" "$3" a b c d e f g h i j k l m n o p q r s t u v w x y z >"$4"
 }
 
 # The timestamping recorder of the null sink's monitor, in the background,

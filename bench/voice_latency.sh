@@ -25,6 +25,7 @@ CUTS=${4:-10}
 CUT_STEP=1200
 NAME="Bartholomew Montgomery Fitzwilliam Worthington the third of Little Hampton upon the Marsh"
 . "$HERE/rig.sh"
+rig_need_game
 rig_need bench_record bench_keys bench_voices
 command -v speech-dispatcher >/dev/null || { echo "needs speech-dispatcher and speech-dispatcher-espeak-ng"; exit 1; }
 
@@ -66,8 +67,7 @@ measure() {
   xdotool key --window "$window" n
   said " Please enter your name. " "$RIG/$label.journal"
   sleep 2.5
-  "$BUILD/bench/bench_keys" "$window" "$PRESSES" "$INTERVAL" a b c d e f g h i j k l m n o p q r s t u v w x y z \
-    >"$RIG/$label.keys"
+  rig_letters "$window" "$PRESSES" "$INTERVAL" "$RIG/$label.keys"
   sleep 0.5
   kill -9 $game
   wait $game 2>/dev/null
