@@ -4,6 +4,8 @@
 #include <cmath>
 #include <iterator>
 
+#include "platform/platform.h"
+
 namespace platform::real {
 
 namespace {
@@ -43,7 +45,7 @@ std::string voiceId(int index) { return entry(index).id; }
 std::string voiceTitle(int index) { return entry(index).title; }
 
 int wordsPerMinute(int rate) {
-    double wpm = 175.0 * std::pow(1.1, std::clamp(rate, -20, 20));
+    double wpm = 175.0 * std::pow(1.1, std::clamp(rate, -fastestRate, fastestRate));
     return std::clamp(int(std::lround(wpm)), 80, 450);
 }
 
