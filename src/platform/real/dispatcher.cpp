@@ -118,7 +118,9 @@ void Dispatcher::say(const std::string& text) {
     // A text of blanks is nothing to hear, and some synthesisers never report
     // its end.
     if (text.find_first_not_of(" ") == std::string::npos) return;
-    int id = spd_say(spd(connection_), SPD_TEXT, textForSynth(text).c_str());
+    // Priority "message" queues behind our own texts; "text" would cut the
+    // one before short, so only the last of a run would be heard.
+    int id = spd_say(spd(connection_), SPD_MESSAGE, textForSynth(text).c_str());
     if (id < 0) return;
     std::lock_guard lock(mutex_);
     auto now = std::chrono::steady_clock::now();

@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
@@ -109,17 +110,29 @@ protected:
         for (int i = 0; i < 30 && kill(pid, 0) == 0; ++i) std::this_thread::sleep_for(100ms);
         kill(pid, SIGKILL);
     }
-    // The loudest sample of the recording from byte `from` on.
-    int peakFrom(std::uintmax_t from) const {
+    // The size of each sample of the recording from byte `from` on.
+    std::vector<int> levelsFrom(std::uintmax_t from) const {
         std::ifstream in(dir / "rec.raw", std::ios::binary);
         in.seekg(std::streamoff(from));
         std::vector<char> bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-        int peak = 0;
-        for (size_t i = 0; i + 1 < bytes.size(); i += 2) {
-            int s = std::abs(int(std::int16_t(std::uint8_t(bytes[i]) | (std::uint8_t(bytes[i + 1]) << 8))));
-            peak = std::max(peak, s);
-        }
-        return peak;
+        std::vector<int> levels;
+        for (size_t i = 0; i + 1 < bytes.size(); i += 2)
+            levels.push_back(std::abs(int(std::int16_t(std::uint8_t(bytes[i]) | (std::uint8_t(bytes[i + 1]) << 8)))));
+        return levels;
+    }
+    // The loudest sample of the recording from byte `from` on.
+    int peakFrom(std::uintmax_t from) const {
+        auto levels = levelsFrom(from);
+        return levels.empty() ? 0 : *std::max_element(levels.begin(), levels.end());
+    }
+    // Seconds from the first to the last loud sample from byte `from` on.
+    double heardFrom(std::uintmax_t from) const {
+        auto levels = levelsFrom(from);
+        auto loud = [](int level) { return level > 1000; };
+        auto first = std::find_if(levels.begin(), levels.end(), loud);
+        if (first == levels.end()) return 0;
+        auto last = std::find_if(levels.rbegin(), levels.rend(), loud).base();
+        return double(last - first) / (2 * 48000);   // two channels
     }
     std::uintmax_t recorded() const {
         std::error_code ec;
@@ -154,6 +167,14 @@ TEST_F(DispatcherLive, ItsVoicesFollowTheEmbeddedOnesAndSpeakIntoTheSink) {
     ASSERT_TRUE(endsSpeaking(p, 20s)) << "the end of the text was never reported";
     std::this_thread::sleep_for(300ms);
     EXPECT_GT(peakFrom(before), 1000) << "nothing reached the sink";
+    double once = heardFrom(before);
+
+    // Texts queued together are all spoken, one after the other.
+    before = recorded();
+    for (int i = 0; i < 3; ++i) p.speak("Greenlark speaks through speech dispatcher now.", 1);
+    ASSERT_TRUE(endsSpeaking(p, 30s));
+    std::this_thread::sleep_for(300ms);
+    EXPECT_GT(heardFrom(before), 2.5 * once) << "a queued text cut the one before it short";
 
     p.speak("Short.", 0);
     EXPECT_NE(p.runningState(), 2) << "a text said and waited for has been spoken";
