@@ -42,15 +42,10 @@ std::string SdlPlatform::voiceName(int index) {
 }
 
 void SdlPlatform::applyVoice() {
-    if (onDispatcher()) {
-        dispatcher_->use(dispatcherVoice_);
-        dispatcher_->setRate(rate_);
-        dispatcher_->setVolume(volume_);
-    }
-    if (!speech_) return;
-    speech_->setVoice(voiceId(std::min(voiceIndex_, real::voiceCount() - 1)));
-    speech_->setWordsPerMinute(wordsPerMinute(rate_));
-    audio_->mixer().speech().setGain(float(volume_) / 100.0f);
+    if (onDispatcher()) dispatcher_->use(dispatcherVoice_);
+    if (speech_) speech_->setVoice(voiceId(std::min(voiceIndex_, real::voiceCount() - 1)));
+    setRate(rate_);
+    setVolume(volume_);
 }
 
 void SdlPlatform::createVoice() {
@@ -75,14 +70,18 @@ void SdlPlatform::setVoice(int index) {
     applyVoice();
 }
 
+// Rate and volume send only themselves: key names change the rate twice a
+// key, and every setting is a round trip to speech-dispatcher.
 void SdlPlatform::setRate(int rate) {
     rate_ = rate;
-    applyVoice();
+    if (onDispatcher()) dispatcher_->setRate(rate_);
+    if (speech_) speech_->setWordsPerMinute(wordsPerMinute(rate_));
 }
 
 void SdlPlatform::setVolume(int volume) {
     volume_ = std::clamp(volume, 0, 100);
-    applyVoice();
+    if (onDispatcher()) dispatcher_->setVolume(volume_);
+    if (speech_) audio_->mixer().speech().setGain(float(volume_) / 100.0f);
 }
 
 void SdlPlatform::speak(const std::string& text, int flag) {
