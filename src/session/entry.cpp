@@ -5,6 +5,7 @@
 #include "course/course.h"
 #include "input/keys.h"
 #include "platform/platform.h"
+#include "records/dates.h"
 #include "round/state.h"
 #include "session/leaving.h"
 #include "session/manuals.h"
@@ -75,9 +76,7 @@ bool wavesPass() {
 }
 
 void today() {
-    std::string text;
-    platform::attempt([&] { text = platform::os().dateText(); });
-    Date d = readdate(text);
+    Date d = readdate(records::systemdate());
     ss.mm = d.mm;
     ss.dd = d.dd;
     ss.yy = d.yy;

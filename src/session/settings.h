@@ -20,9 +20,11 @@ void changevoice(int a);
 
 // The highest voice index: one less than the number of voices.
 int nov();
-// Makes the voice object anew at the player's rate, voice and volume. A
-// voice index past the present list, as after a voice was removed, falls
-// back to voice 0.
+// A voice index outside the present list, as after a voice was removed,
+// becomes voice 0.
+void voiceinlist();
+// Makes the voice object anew at the player's rate, voice and volume, the
+// voice index first put in the list.
 void makevoice();
 // Sets the F9, F11 and F12 hooks of the key event to the routines above,
 // where start-up has not set them.

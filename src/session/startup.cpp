@@ -24,7 +24,7 @@ using sound::bk;
 // The voice as the settings say; a voice index past the list gives voice 0.
 void openvoice() {
     auto& os = platform::os();
-    if (ss.nv < 0 || ss.nv > nov()) ss.nv = 0;
+    voiceinlist();
     platform::attempt([&] { os.setVoice(ss.nv); });
     os.yield();
     platform::attempt([&] { os.setVolume(ss.vv); });

@@ -28,7 +28,7 @@ void nextvoice() {
     platform::attempt([&] { os.setCurrentPosition(bk.sb, 0); });
     platform::attempt([&] { os.play(bk.sb, 1); });
     ss.nv += 1;
-    if (ss.nv > nov()) ss.nv = 0;
+    voiceinlist();
     makevoice();
 }
 
@@ -80,9 +80,13 @@ int nov() {
     return n - 1;
 }
 
+void voiceinlist() {
+    if (ss.nv < 0 || ss.nv > nov()) ss.nv = 0;
+}
+
 void makevoice() {
     auto& os = platform::os();
-    if (ss.nv < 0 || ss.nv > nov()) ss.nv = 0;
+    voiceinlist();
     platform::attempt([&] { os.releaseVoice(); });
     platform::attempt([&] { os.createVoice(); });
     platform::attempt([&] { os.setRate(vs.vr); });
