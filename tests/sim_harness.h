@@ -46,11 +46,10 @@ Result runInProcessFromTick(std::uint32_t tickStart, const std::string& script, 
 void runInProcessLive(std::istream& in, const std::function<void()>& program, Result& r,
                       const std::string& docs = "");
 
-// From the start of the program to the main menu's first " select ": the
-// one place that knows the opening, so that a change there changes only it.
-// A first run: no golf.cfg, so the name is asked for and the special keys
-// are read unasked.
-inline const char* kToTheMenu = R"(expect "Please enter your name"
+// The one place that knows the opening, so that a change there changes only
+// it. A first run, no golf.cfg: the name Jo is typed and kept and the voice
+// taken, up to the power sound menu.
+inline const char* kFirstRunToThePowerMenu = R"(expect "Please enter your name"
 type Jo
 key Enter
 expect "correct for your name? yes"
@@ -58,14 +57,17 @@ key Enter
 expect "do you wish to use this voice."
 key Enter
 expect "select power indicator sound files"
-key Enter
+)";
+// From there to the main menu's first " select ": the special keys are read
+// unasked.
+inline const std::string kToTheMenu = kFirstRunToThePowerMenu + std::string(R"(key Enter
 expect "Would you like to read the instructions? yes"
 key N
 expect "Would you like to read the special key instructions? no"
 key N
 expect "Would you like to read the hints? yes"
 key N
-)";
+)");
 
 // A later run from the name offered and kept to the main menu: the three
 // questions come with no.

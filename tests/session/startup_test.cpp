@@ -35,15 +35,7 @@ void put(const std::string& path, const std::string& bytes) {
 
 TEST(StartUp, AFirstRunAndALaterRunKeepTheSettingsInGolfCfg) {
     std::string docs = simtest::tempDir(), cfg = docs + "/brindlewick/golf.cfg";
-    auto first = runBinary(R"(expect "Please enter your name"
-type Jo
-key Enter
-expect "correct for your name? yes"
-key Enter
-expect "do you wish to use this voice."
-key Enter
-expect "select power indicator sound files"
-key Down
+    auto first = runBinary(simtest::kFirstRunToThePowerMenu + std::string(R"(key Down
 expect " alternative with beeps "
 key Enter
 expect " Jo  Would you like to read the instructions? yes "
@@ -60,7 +52,7 @@ expect " Golf Hints."
 key Space
 expect " Jo  Would you like to read the hints? yes "
 key N
-)" + std::string(simtest::kMenuToTheEnd),
+)") + simtest::kMenuToTheEnd,
                            {"--docs", docs});
     ASSERT_EQ(first.code, 0) << first.dump();
     auto order = first.sequence({"say \" Greenlark. version eleven, By Tobrell \"",
