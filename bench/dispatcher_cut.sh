@@ -11,13 +11,10 @@ BUILD=$(cd "${1:-$HERE/../build-real}" && pwd)
 ROUNDS=${2:-10}
 . "$HERE/rig.sh"
 rig_need bench_record bench_dispatcher_cut
-command -v speech-dispatcher >/dev/null || { echo "needs speech-dispatcher and speech-dispatcher-espeak-ng"; exit 1; }
 
 rig_pulse
 rig_recorder
-speech-dispatcher -d -t 0 2>/dev/null
-for _ in $(seq 50); do [ -e "$XDG_RUNTIME_DIR/speech-dispatcher/pid/speech-dispatcher.pid" ] && break; sleep 0.1; done
-rig_track "$(cat "$XDG_RUNTIME_DIR/speech-dispatcher/pid/speech-dispatcher.pid")"
+rig_speechd
 sleep 3
 "$BUILD/bench/bench_dispatcher_cut" "$ROUNDS" >"$RIG/cuts" || exit 1
 sleep 0.5

@@ -10,6 +10,8 @@
 #   rig_need TOOL...  stops unless the build has these benchmark programs
 #   rig_need_game  stops unless the build has the game and its sound files
 #   rig_letters WINDOW PRESSES INTERVAL OUT  presses letter keys, notes when
+#   rig_speechd    starts speech-dispatcher on the private PulseAudio (after
+#                  rig_pulse); stops the script when it is not installed
 
 RIG=$(mktemp -d "${TMPDIR:-/tmp}/greenlark-bench-XXXXXX")
 RIG_PIDS=()
@@ -96,4 +98,12 @@ rig_recorder() {
   "$BUILD/bench/bench_record" cap.monitor "$RIG/rec" 96 &
   RECORDER=$!
   rig_track $RECORDER
+}
+
+rig_speechd() {
+  command -v speech-dispatcher >/dev/null || { echo "needs speech-dispatcher and speech-dispatcher-espeak-ng"; exit 1; }
+  local pidfile=$XDG_RUNTIME_DIR/speech-dispatcher/pid/speech-dispatcher.pid
+  speech-dispatcher -d -t 0 2>/dev/null
+  for _ in $(seq 50); do [ -e "$pidfile" ] && break; sleep 0.1; done
+  rig_track "$(cat "$pidfile")"
 }

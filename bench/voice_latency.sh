@@ -27,12 +27,9 @@ NAME="Bartholomew Montgomery Fitzwilliam Worthington the third of Little Hampton
 . "$HERE/rig.sh"
 rig_need_game
 rig_need bench_record bench_keys bench_voices
-command -v speech-dispatcher >/dev/null || { echo "needs speech-dispatcher and speech-dispatcher-espeak-ng"; exit 1; }
 
 rig_pulse
-speech-dispatcher -d -t 0 2>/dev/null
-for _ in $(seq 50); do [ -e "$XDG_RUNTIME_DIR/speech-dispatcher/pid/speech-dispatcher.pid" ] && break; sleep 0.1; done
-rig_track "$(cat "$XDG_RUNTIME_DIR/speech-dispatcher/pid/speech-dispatcher.pid")"
+rig_speechd
 DISPATCHER=$(SDL_AUDIODRIVER=dummy SDL_VIDEODRIVER=dummy "$BUILD/bench/bench_voices") || exit 1
 rig_xvfb || exit 1
 # The player's folder: golf.cfg there marks a later run and holds the voice.
