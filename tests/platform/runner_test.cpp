@@ -81,7 +81,7 @@ TEST(RunnerContract, ScriptLines) {
     EXPECT_EQ(e->text, std::string("a\0bJx4 \"", 8));
     EXPECT_FALSE(sim::parseLine("   # only a comment", 3, err));
     EXPECT_TRUE(err.empty());
-    EXPECT_EQ(sim::quote(std::string(" a \"b\" \\ \0\x01\t\x1f ~\r\n", 19)),
+    EXPECT_EQ(sim::quote(std::string(" a \"b\" \\ \0\x01\t\x1f ~\r\n", 17)),
               "\" a \\\"b\\\" \\\\ \\x00\\x01\\x09\\x1F ~\\r\\n\"");
 
     for (const char* bad : {"seed", "seed -1", "seed 1.5", "seed x", "seed 1 2", "seed 18446744073709551616"}) {
