@@ -40,29 +40,12 @@ int byScancode(SDL_Scancode s) {
     }
 }
 
-int punctuation(int c) {
-    switch (c) {
-        case ';': return 186;
-        case '=': return 187;
-        case ',': return 188;
-        case '-': return 189;
-        case '.': return 190;
-        case '/': return 191;
-        case '`': return 192;
-        case '[': return 219;
-        case '\\': return 220;
-        case ']': return 221;
-        case '\'': return 222;
-        default: return 0;
-    }
-}
-
 // Letters, digits and punctuation by the character the layout gives.
 int bySymbol(SDL_Keycode k) {
     if (k >= 'a' && k <= 'z') return 'A' + (k - 'a');
     if (k >= 'A' && k <= 'Z') return k;
     if (k >= '0' && k <= '9') return k;
-    return punctuation(k);
+    return punctuationKey(k);
 }
 
 // The US-layout character of a key, for layouts whose symbols are not ASCII.
@@ -87,6 +70,23 @@ int usCharacter(SDL_Scancode s) {
 }
 
 }  // namespace
+
+int punctuationKey(int c) {
+    switch (c) {
+        case ';': return 186;
+        case '=': return 187;
+        case ',': return 188;
+        case '-': return 189;
+        case '.': return 190;
+        case '/': return 191;
+        case '`': return 192;
+        case '[': return 219;
+        case '\\': return 220;
+        case ']': return 221;
+        case '\'': return 222;
+        default: return 0;
+    }
+}
 
 int virtualKey(SDL_Scancode scancode, SDL_Keycode symbol) {
     if (int code = byScancode(scancode)) return code;

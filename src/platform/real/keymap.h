@@ -10,4 +10,8 @@ namespace platform::real {
 // symbol); the numeric pad and the named keys follow the physical key.
 int virtualKey(SDL_Scancode scancode, SDL_Keycode symbol);
 
+// The code of the key of a US keyboard that types the sign `c` unshifted
+// (; = , - . / ` [ \ ] '), or 0.
+int punctuationKey(int c);
+
 }  // namespace platform::real

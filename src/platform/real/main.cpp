@@ -1,6 +1,9 @@
 // The real program: the SDL2 platform under the game.
-//   greenlark [--journal FILE]
+//   greenlark [--terminal] [--text] [--journal FILE]
 // --journal writes the game into FILE as a greenlark-sim script.
+// --terminal plays in the terminal even where a window could open; without
+// a display the game plays there anyway. --text writes each spoken text as
+// a line on standard output.
 #include <cstdio>
 #include <cstring>
 #include <exception>
@@ -13,11 +16,18 @@
 
 namespace {
 
+struct Options {
+    bool terminal = false;
+    bool text = false;
+};
+
 // The journal's file, empty for none; false for arguments it cannot read.
-bool readArgs(int argc, char** argv, std::string& journal) {
+bool readArgs(int argc, char** argv, std::string& journal, Options& o) {
     for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--journal") != 0 || i + 1 >= argc || !journal.empty()) return false;
-        journal = argv[++i];
+        if (std::strcmp(argv[i], "--terminal") == 0) o.terminal = true;
+        else if (std::strcmp(argv[i], "--text") == 0) o.text = true;
+        else if (std::strcmp(argv[i], "--journal") != 0 || i + 1 >= argc || !journal.empty() || !*argv[i + 1]) return false;
+        else journal = argv[++i];
     }
     return true;
 }
@@ -26,8 +36,9 @@ bool readArgs(int argc, char** argv, std::string& journal) {
 
 int main(int argc, char** argv) {
     std::string journal;
-    if (!readArgs(argc, argv, journal) || (argc > 1 && journal.empty())) {
-        std::fprintf(stderr, "usage: greenlark [--journal FILE]\n");
+    Options o;
+    if (!readArgs(argc, argv, journal, o)) {
+        std::fprintf(stderr, "usage: greenlark [--terminal] [--text] [--journal FILE]\n");
         return 2;
     }
     // A journal named from where the program was started.
@@ -36,7 +47,9 @@ int main(int argc, char** argv) {
     // wave checks and the launcher look in the working folder.
     platform::real::startInDataFolder();
     try {
-        platform::real::SdlPlatform sdl;
+        platform::real::SdlPlatform sdl(o.terminal ? platform::real::Keys::terminal
+                                                   : platform::real::Keys::windowOrTerminal);
+        if (o.text) sdl.writeTexts();
         if (!journal.empty() && !sdl.journalTo(journal)) {
             std::fprintf(stderr, "greenlark: cannot write the journal %s\n", journal.c_str());
             return 2;

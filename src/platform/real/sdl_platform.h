@@ -1,5 +1,6 @@
-// The real platform: an SDL2 window that takes the keyboard, our mixer on
-// SDL's audio callback, and espeak-ng speech mixed into the same output.
+// The real platform: an SDL2 window that takes the keyboard (or the terminal
+// the game was started from, where there is no display), our mixer on SDL's
+// audio callback, and espeak-ng speech mixed into the same output.
 #pragma once
 
 #include <SDL2/SDL.h>
@@ -16,12 +17,17 @@
 #include "platform/real/journal.h"
 #include "platform/real/pacer.h"
 #include "platform/real/speech_engine.h"
+#include "platform/real/terminal.h"
 
 namespace platform::real {
 
+// Where the keys come from: a window, the terminal the program was started
+// from, or a window when a display can be opened and else the terminal.
+enum class Keys { window, terminal, windowOrTerminal };
+
 class SdlPlatform : public Platform {
 public:
-    SdlPlatform();
+    explicit SdlPlatform(Keys keys = Keys::window);
     ~SdlPlatform() override;
     SdlPlatform(const SdlPlatform&) = delete;
     SdlPlatform& operator=(const SdlPlatform&) = delete;
@@ -31,6 +37,9 @@ public:
     // Writes the game into a journal from here on; false if the file cannot
     // be written.
     bool journalTo(const std::string& path) { return journal_.open(path); }
+    // Writes each spoken text as a line on standard output as well.
+    void writeTexts() { texts_ = true; }
+    bool inTerminal() const { return terminal_ != nullptr; }
 
     void showWindow(const std::string& caption) override;
     void setKeyHandler(std::function<void(int)> onKey) override { onKey_ = std::move(onKey); }
@@ -85,9 +94,16 @@ public:
 
 private:
     void openAudio();
+    // SDL's video, when a display can be opened; false when it cannot.
+    bool openVideo();
+    void openWindow();
+    // The terminal in place of the window; throws when there is none.
+    void openTerminal();
     void deliver(const SDL_Event& e);
+    void deliverKey(int key);
     bool nextEvent(SDL_Event& e);
-    // A SIGTERM or SIGINT came: the end handler runs.
+    // A SIGTERM, SIGINT or SIGHUP came, or the terminal was closed: the end
+    // handler runs.
     void endIfAsked();
     // The mixer; throws Failure when the sound device is not open.
     Mixer& openMixer();
@@ -103,6 +119,9 @@ private:
     std::optional<Journal::Indicator> playingIndicator();
 
     SDL_Window* window_ = nullptr;
+    Keys keys_ = Keys::window;
+    std::unique_ptr<Terminal> terminal_;
+    bool texts_ = false;
     std::string caption_;
     std::function<void(int)> onKey_;
     std::function<void()> onClose_;

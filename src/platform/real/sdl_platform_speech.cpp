@@ -6,6 +6,7 @@
 
 #include "platform/real/device_clock.h"
 #include "platform/real/sdl_platform.h"
+#include "platform/real/terminal_text.h"
 #include "platform/real/voices.h"
 
 namespace platform::real {
@@ -87,6 +88,7 @@ void SdlPlatform::setVolume(int volume) {
 void SdlPlatform::speak(const std::string& text, int flag) {
     pacer_.active();
     if (flag != speakPurge) journal_.spoke(text, flag);
+    if (flag != speakPurge && texts_) writeTextLine(text);
     if (flag == speakPurge) {
         if (speech_) speech_->silence();
         if (onDispatcher()) dispatcher_->silence();
