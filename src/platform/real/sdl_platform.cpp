@@ -37,9 +37,9 @@ bool named(const char* variable) {
 }
 
 // An event pushed from any thread wakes the terminal's wait, as it wakes
-// the window's.
-int SDLCALL wakeTerminal(void* terminal, SDL_Event*) {
-    static_cast<Terminal*>(terminal)->wake();
+// the window's; not the mark SDL pushes at each poll of its own.
+int SDLCALL wakeTerminal(void* terminal, SDL_Event* e) {
+    if (e->type != SDL_POLLSENTINEL) static_cast<Terminal*>(terminal)->wake();
     return 1;
 }
 

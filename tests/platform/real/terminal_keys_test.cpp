@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "platform/real/terminal_keys.h"
-#include "platform/real/terminal_text.h"
 
 namespace {
 
@@ -49,43 +48,20 @@ TEST(TerminalKeys, EachTerminalsSequencesAndBytes) {
     }
 }
 
+// Escape alone waits for the rest of a sequence; a sequence in pieces is one
+// key, and one broken off is Escape and the keys of its bytes.
 TEST(TerminalKeys, EscapeAloneWaitsForTheRestOfASequence) {
     KeyDecoder d;
     std::vector<int> keys;
-    decodeKeys(d, "\033", 0, keys);
-    expireKeys(d, kEscapeWaitMs - 1, keys);
-    EXPECT_TRUE(keys.empty());
-    expireKeys(d, kEscapeWaitMs, keys);
-    EXPECT_EQ(keys, std::vector<int>{27});
-    // A sequence in pieces is one key; one broken off is Escape and its bytes.
-    decodeKeys(d, "\033[", 100, keys);
-    decodeKeys(d, "2", 110, keys);
-    decodeKeys(d, "4~\033[", 120, keys);
+    const std::pair<const char*, std::uint32_t> bytes[] = {{"\033", 0}, {"\033[", 100}, {"2", 110}, {"4~\033[", 120}};
+    for (auto [sent, at] : bytes) {
+        expireKeys(d, at - 1, keys);
+        decodeKeys(d, sent, at, keys);
+    }
+    expireKeys(d, 120 + kEscapeWaitMs - 1, keys);
+    EXPECT_EQ(keys, (std::vector<int>{27, 123}));
     expireKeys(d, 120 + kEscapeWaitMs, keys);
     EXPECT_EQ(keys, (std::vector<int>{27, 123, 27, 219}));
-}
-
-TEST(TerminalKeys, AKeyBehindShiftWaitsTurnsAndMilliseconds) {
-    KeyQueue q;
-    q.waiting = {16, 74, 79, 13};
-    newTurn(q);
-    EXPECT_EQ(nextKey(q, 0), 16);
-    EXPECT_EQ(nextKey(q, 0), 0);
-    for (int turn = 1; turn < kHoldTurns; ++turn) {
-        newTurn(q);
-        EXPECT_EQ(nextKey(q, 1000), 0) << turn;
-    }
-    newTurn(q);
-    EXPECT_EQ(nextKey(q, kHoldMs - 1), 0);
-    EXPECT_EQ(nextKey(q, kHoldMs), 74);
-    EXPECT_EQ(nextKey(q, kHoldMs), 79);
-    EXPECT_EQ(nextKey(q, kHoldMs), 13);
-}
-
-TEST(TerminalText, ASpokenTextIsOneTidyLine) {
-    EXPECT_EQ(textLine(" Is  Jo  correct for\r\nyour name? yes "), "Is Jo correct for your name? yes");
-    EXPECT_EQ(textLine("  "), "");
-    EXPECT_EQ(textLine("\r"), "");
 }
 
 }  // namespace

@@ -104,20 +104,6 @@ std::vector<std::string> XServer::windows(const std::string& name, std::chrono::
     return ids;
 }
 
-std::vector<std::string> XServer::allNamed(const std::string& name) const {
-    std::istringstream tree(run("xwininfo -root -tree"));
-    std::vector<std::string> ids;
-    const std::string quoted = " \"" + name + "\":";
-    for (std::string line; std::getline(tree, line);) {
-        if (line.find(quoted) == std::string::npos) continue;
-        std::istringstream words(line);
-        std::string id;
-        words >> id;
-        ids.push_back(id);
-    }
-    return ids;
-}
-
 std::string startForGame(std::unique_ptr<XServer>& x) {
     if (!onPath("xdotool")) return "needs xdotool";
     x = std::make_unique<XServer>();

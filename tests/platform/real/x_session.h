@@ -28,9 +28,6 @@ public:
     pid_t start(const std::string& command) const;
     // The ids of the windows whose name matches, waiting up to `wait` for one.
     std::vector<std::string> windows(const std::string& name, std::chrono::milliseconds wait) const;
-    // The ids of all windows named exactly `name`, found with xwininfo:
-    // xdotool's search misses SDL's message boxes, which have no class.
-    std::vector<std::string> allNamed(const std::string& name) const;
 
 private:
     pid_t pid_ = 0;
