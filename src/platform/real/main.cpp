@@ -26,8 +26,10 @@ bool readArgs(int argc, char** argv, std::string& journal, Options& o) {
     for (int i = 1; i < argc; ++i) {
         if (std::strcmp(argv[i], "--terminal") == 0) o.terminal = true;
         else if (std::strcmp(argv[i], "--text") == 0) o.text = true;
-        else if (std::strcmp(argv[i], "--journal") != 0 || i + 1 >= argc || !journal.empty() || !*argv[i + 1]) return false;
-        else journal = argv[++i];
+        else if (std::strcmp(argv[i], "--journal") != 0 || i + 1 >= argc || !journal.empty() || !*argv[i + 1])
+            return false;
+        else
+            journal = argv[++i];
     }
     return true;
 }

@@ -144,10 +144,18 @@ void Terminal::title(const std::string& caption) {
     writeAll(saved_.fd, out.data(), out.size());
 }
 
+namespace {
+
+// Milliseconds from tick `now` until `span` has passed since tick `from`.
+int remaining(std::uint32_t span, std::uint32_t from, std::uint32_t now) {
+    return int(span - std::min(span, elapsed(from, now)));
+}
+
+}  // namespace
+
 void Terminal::wait(int ms, std::uint32_t now) {
-    if (queue_.holding && !queue_.waiting.empty()) ms = std::min<int>(ms, int(kHoldMs - std::min(kHoldMs, elapsed(queue_.heldAt, now))));
-    if (!decoder_.pending.empty())
-        ms = std::min<int>(ms, int(kEscapeWaitMs - std::min(kEscapeWaitMs, elapsed(decoder_.since, now))));
+    if (queue_.holding && !queue_.waiting.empty()) ms = std::min(ms, remaining(kHoldMs, queue_.heldAt, now));
+    if (!decoder_.pending.empty()) ms = std::min(ms, remaining(kEscapeWaitMs, decoder_.since, now));
     pollfd fds[2] = {{wakeRead_, POLLIN, 0}, {saved_.fd, POLLIN, 0}};
     if (poll(fds, hungUp_ ? 1 : 2, std::max(ms, 0)) <= 0) return;
     char drain[64];

@@ -49,7 +49,8 @@ TEST(SdlPlatform, KeysCloseAndSpeechInTheWindow) {
     yieldUntil(p, [&] { return keys.size() >= 13; });
     realtest::waitExit(typist, 5s);
     ASSERT_GE(keys.size(), 13u);
-    EXPECT_EQ(std::vector<int>(keys.begin(), keys.begin() + 9), (std::vector<int>{65, 97, 97, 13, 13, 16, 116, 186, 37}));
+    EXPECT_EQ(std::vector<int>(keys.begin(), keys.begin() + 9),
+              (std::vector<int>{65, 97, 97, 13, 13, 16, 116, 186, 37}));
     for (size_t i = 9; i < keys.size(); ++i) EXPECT_EQ(keys[i], 66);
     // The close command runs its handler inside a yield.
     int closes = 0;

@@ -67,7 +67,8 @@ ulimit -c 0
 stty -g > $D/before
 env -u DISPLAY -u WAYLAND_DISPLAY -u SDL_VIDEODRIVER SDL_AUDIODRIVER=disk SDL_DISKAUDIOFILE=$D/audio HOME=$D/home \
     XDG_CONFIG_HOME=$D/home/.config SPEECHD_ADDRESS=unix_socket:$D/none \
-    sh -c 'echo $$ > $D/pid; exec "$0" "$@"' )" << GREENLARK_BIN << " " << options << R"( --text --journal $D/journal > $D/spoken
+    sh -c 'echo $$ > $D/pid; exec "$0" "$@"' )"
+                                      << GREENLARK_BIN << " " << options << R"( --text --journal $D/journal > $D/spoken
 echo $? > $D/status
 stty -g > $D/after
 )";
