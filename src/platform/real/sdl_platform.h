@@ -39,7 +39,6 @@ public:
     bool journalTo(const std::string& path) { return journal_.open(path); }
     // Writes each spoken text as a line on standard output as well.
     void writeTexts() { texts_ = true; }
-    bool inTerminal() const { return terminal_ != nullptr; }
 
     void showWindow(const std::string& caption) override;
     void setKeyHandler(std::function<void(int)> onKey) override { onKey_ = std::move(onKey); }
