@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <sstream>
 #include <thread>
 
@@ -134,6 +136,20 @@ int waitExit(pid_t pid, std::chrono::milliseconds wait) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
     return -1;
+}
+
+// A thread kept from running shows as running and starts the count again.
+bool awaitKeyWait(pid_t pid) {
+    std::string stat = "/proc/" + std::to_string(pid) + "/task/" + std::to_string(pid) + "/stat";
+    int asleep = 0;
+    for (int i = 0; i < 3000 && asleep < 10; ++i) {
+        std::ifstream in(stat);
+        std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        size_t paren = text.rfind(')');
+        asleep = paren != std::string::npos && text.compare(paren + 2, 1, "S") == 0 ? asleep + 1 : 0;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    return asleep >= 10;
 }
 
 }  // namespace realtest

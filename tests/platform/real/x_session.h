@@ -45,4 +45,9 @@ pid_t spawnIn(const std::string& folder, const std::string& program, const std::
 // Waits up to `wait` for a child to end; its exit status, or -1 if it did not.
 int waitExit(pid_t pid, std::chrono::milliseconds wait);
 
+// Waits until the main thread of `pid` has been asleep at every look for
+// 200 ms: the game settled in a key wait, past the clearing of the key that
+// begins each wait. False after a minute.
+bool awaitKeyWait(pid_t pid);
+
 }  // namespace realtest
