@@ -192,22 +192,6 @@ protected:
     pid_t game = 0;
 };
 
-// The game's main thread asleep at every look for 200 ms: past the clearing
-// of the key that begins each wait, which takes two turns of the loop. A
-// thread kept from running shows as running and starts the count again.
-bool awaitKeyWait(pid_t game) {
-    std::string stat = "/proc/" + std::to_string(game) + "/task/" + std::to_string(game) + "/stat";
-    int asleep = 0;
-    for (int i = 0; i < 3000 && asleep < 10; ++i) {
-        std::string text = slurp(stat);
-        size_t paren = text.rfind(')');
-        bool sleeping = paren != std::string::npos && text.compare(paren + 2, 1, "S") == 0;
-        asleep = sleeping ? asleep + 1 : 0;
-        std::this_thread::sleep_for(20ms);
-    }
-    return asleep >= 10;
-}
-
 // The texts spoken, in order, as transcript bodies: say "..." and say2 "...".
 std::vector<std::string> spoken(const std::vector<std::string>& lines, bool comments) {
     std::vector<std::string> out;
@@ -244,7 +228,7 @@ TEST_F(JournalReplay, ARealGameToTheFirstShotPlaysAgainToTheSameTexts) {
         at = awaitLine(step.heard, at);
         ASSERT_GE(at, 0) << "never heard " << step.heard << "\n" << slurp(journal);
         // The prompt's own key wait drops a key that comes before it.
-        ASSERT_TRUE(awaitKeyWait(game)) << "the game never settled in its key wait";
+        ASSERT_TRUE(realtest::awaitKeyWait(game)) << "the game never settled in its key wait";
         x->run(std::string("xdotool key --window ") + windows[0] + " " + step.key);
     }
     ASSERT_GE(awaitLine(kTheReport, at), 0) << slurp(journal);
