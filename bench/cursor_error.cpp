@@ -54,7 +54,7 @@ std::vector<double> measure(const Scenario& s) {
     Mixer mixer(s.rate, s.period);
     platform::Wave wave = soundToPlay();
     int id = mixer.add(wave);
-    mixer.play(id, true);
+    mixer.play(id, true, 0);
     const double nsPerFrame = 1e9 / s.rate, step = 44100.0 / s.rate;
     const std::int64_t start = 1000000000000;   // the device plays frame 0 here
     std::mt19937 rng(11);

@@ -2,6 +2,7 @@
 # Sourced by scripts/play and scripts/test.
 greenlark_deps() {
     local want=(build-essential cmake ninja-build pkg-config libsdl2-dev libespeak-ng-dev espeak-ng-data libspeechd-dev
+                libpulse-dev libsamplerate0-dev
                 libgtest-dev googletest xdg-user-dirs "$@")
     local missing=()
     for p in "${want[@]}"; do

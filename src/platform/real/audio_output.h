@@ -1,25 +1,17 @@
-// The SDL audio device, fed by our mixer from SDL's audio callback.
-//
-// A stream that plays silence still costs: the sound server and our audio
-// thread wake every few milliseconds to pass it on. Once nothing has sounded
-// for a while (every sound stopped, no speech queued or heard) the stream
-// stops, and the next sound or speech starts it again. A thread of our own
-// stops and starts it, so that the game never waits for the device.
+// The game's sound output: our own stream on a PulseAudio server wherever
+// one answers (PipeWire's pulse layer included), SDL's audio device where
+// none does. GREENLARK_AUDIO=sdl or =pulse chooses by hand; an SDL audio
+// driver named in SDL_AUDIODRIVER other than PulseAudio's chooses SDL.
+// Whichever it is, the game's sounds go through its mixer.
 #pragma once
 
-#include <SDL2/SDL.h>
-
-#include <atomic>
-#include <condition_variable>
 #include <cstdint>
 #include <memory>
-#include <mutex>
 #include <string>
-#include <thread>
-#include <vector>
 
 #include "platform/real/mixer.h"
-#include "platform/real/waker.h"
+#include "platform/real/pulse_output.h"
+#include "platform/real/sdl_output.h"
 
 namespace platform::real {
 
@@ -28,53 +20,26 @@ public:
     // How long the output stays silent before the stream stops.
     static constexpr int kSleepMs = 2000;
 
-    // Opens the default device and starts the stream; `wakeEvent` is the SDL
-    // event type pushed when a sound or the speech ends. After `sleepMs` of
-    // silence the stream stops (never with 0, nor on SDL's disk driver,
-    // whose file would start anew). Throws Failure when there is no device.
+    // `wakeEvent` is the SDL event type pushed when a sound or the speech
+    // ends. Throws Failure when neither output can be opened.
     explicit AudioOutput(std::uint32_t wakeEvent, int sleepMs = kSleepMs);
-    ~AudioOutput();
-    AudioOutput(const AudioOutput&) = delete;
-    AudioOutput& operator=(const AudioOutput&) = delete;
 
-    Mixer& mixer() { return *mixer_; }
-    int rate() const { return spec_.freq; }
-    int period() const { return spec_.samples; }
-
+    Mixer& mixer() { return pulse_ ? pulse_->mixer() : sdl_->mixer(); }
+    int rate() const { return pulse_ ? pulse_->rate() : sdl_->rate(); }
     // Something is about to sound: the stream keeps running, or starts again
     // if it had stopped. Returns at once.
-    void wake();
-    // True while the stream runs.
-    bool streaming() const { return device_.load() != 0; }
+    void wake() { pulse_ ? pulse_->wake() : sdl_->wake(); }
+    bool streaming() const { return pulse_ ? pulse_->streaming() : sdl_->streaming(); }
+    // "pulse" or "sdl".
+    std::string kind() const { return pulse_ ? "pulse" : "sdl"; }
 
 private:
-    void open(const std::string& driver);
-    void reopen();
-    void close();
-    bool maySleep();
-    void keep();
-    static void SDLCALL callback(void* self, Uint8* stream, int len);
-    void fill(Uint8* stream, int len);
-
-    SDL_AudioSpec spec_{};
-    std::atomic<SDL_AudioDeviceID> device_{0};
-    std::unique_ptr<Mixer> mixer_;
-    std::unique_ptr<Waker> waker_;
-    std::vector<float> scratch_;   // for a device that takes 16-bit samples
-
-    int sleepMs_;
-    std::mutex keepMutex_;
-    std::condition_variable keepWake_;
-    bool wanted_ = false;
-    bool quit_ = false;
-    std::int64_t wokenAt_ = 0;
-    std::thread keeper_;
+    std::unique_ptr<PulseOutput> pulse_;
+    std::unique_ptr<SdlOutput> sdl_;
 };
 
-// Frames per device period: about 5 ms on a real device; a whole number of
-// milliseconds for SDL's drivers that sleep in whole milliseconds.
-int periodFrames(const std::string& driver, int rate);
-// How far behind the block being rendered the listener is, in frames.
-int latencyFrames(const std::string& driver, int period);
+// Whether to try PulseAudio first, from GREENLARK_AUDIO and SDL_AUDIODRIVER
+// (either may be null).
+bool pulseFirst(const char* chosen, const char* sdlDriver);
 
 }  // namespace platform::real

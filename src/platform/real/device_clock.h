@@ -1,14 +1,17 @@
 // Where the listener is in the stream the audio device plays.
 //
-// The device asks for sound one block ahead of what it plays. Each request
-// arrives at (or a little after) the moment the device needs it, so the
-// earliest request, measured against the frames handed out so far, marks the
-// device's own clock; scheduling delays only ever make requests late. The
-// estimate takes the lowest offset over the last few dozen requests and
-// places the listener the device's buffering behind it. When the device
-// falls behind (a stall, an underrun) every later request is late by the
-// same amount: once the last few all are, the older ones are forgotten.
-// When the stream stops and starts again, the device's clock starts anew.
+// SDL's device asks for sound one block ahead of what it plays: each
+// request arrives at (or a little after) the moment the device needs it, so
+// the earliest request, measured against the frames handed out so far,
+// marks the device's own clock; scheduling delays only ever make requests
+// late. The estimate takes the lowest offset over the last few dozen
+// requests and places the listener the device's buffering behind it. A
+// PulseAudio server's reports of how far it has read, stamped with the
+// server's own time, are read the same way, with nothing behind them. When
+// the device falls behind (a stall, an underrun) every later request is
+// late by the same amount: once the last few all are, the older ones are
+// forgotten. When the stream stops and starts again, the device's clock
+// starts anew.
 #pragma once
 
 #include <array>

@@ -92,7 +92,6 @@ SdlPlatform::~SdlPlatform() { shutdown(); }
 // silent. espeak-ng starts before our stream does: its start opens a stream
 // of its own on the sound server, which made ours run dry while it was young.
 void SdlPlatform::openAudio() {
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) return;
     startSynthesiser();
     try {
         audio_ = std::make_unique<AudioOutput>(wakeEvent_);

@@ -68,8 +68,9 @@ void SdlPlatform::setPan(int id, int hundredthsDb) { soundsFor(id).setPan(id, hu
 
 void SdlPlatform::play(int id, int loopFlag) {
     Mixer& mixer = soundsFor(id);
-    bool starts = journal_.on() && mixer.status(id, monotonicNs()) == 0;
-    mixer.play(id, loopFlag != 0);
+    std::int64_t now = monotonicNs();
+    bool starts = journal_.on() && mixer.status(id, now) == 0;
+    mixer.play(id, loopFlag != 0, now);
     if (starts) journal_.played(id, loopFlag != 0);
     audio_->wake();
     pacer_.active();
@@ -110,7 +111,7 @@ void SdlPlatform::beep() {
     Mixer& mixer = audio_->mixer();
     if (beepId_ == 0) beepId_ = mixer.add(toneWave(880, 100, mixer.rate()));
     mixer.setPosition(beepId_, 0);
-    mixer.play(beepId_, false);
+    mixer.play(beepId_, false, monotonicNs());
     audio_->wake();
     pacer_.active();
 }

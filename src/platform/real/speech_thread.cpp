@@ -112,10 +112,16 @@ void SpeechEngine::applySettings(const Utterance& u) {
     }
 }
 
+// The resampler's filter holds back the last fraction of a millisecond
+// until the text has been synthesised to its end.
 void SpeechEngine::synthesise(const std::string& text) {
     leading_ = true;
     resampler_->reset();
     espeak_Synth(text.c_str(), text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, this);
+    if (leading_ || feed_.generation() != synthGeneration_) return;
+    chunk_.clear();
+    resampler_->finish(chunk_);
+    deliver(chunk_);
 }
 
 int SpeechEngine::onSamples(const short* wav, int n) {

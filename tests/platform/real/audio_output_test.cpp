@@ -54,13 +54,13 @@ TEST_F(AudioOutputTest, StopsWhenQuietAndStartsAgainForASound) {
     ASSERT_TRUE(stopped());
     auto& mixer = out->mixer();
     int id = mixer.add(realtest::rampWave(2400));
-    mixer.play(id, false);
+    mixer.play(id, false, monotonicNs());
     out->wake();
     EXPECT_TRUE(eventually([&] { return out->streaming(); }));
     EXPECT_TRUE(eventually([&] { return mixer.status(id, monotonicNs()) == 0; }));
     // Heard out: the stream stops again, and the sound can be played anew.
     ASSERT_TRUE(stopped());
-    mixer.play(id, false);
+    mixer.play(id, false, monotonicNs());
     out->wake();
     EXPECT_TRUE(eventually([&] { return out->streaming(); }));
     EXPECT_TRUE(eventually([&] { return mixer.status(id, monotonicNs()) == 0; }));
@@ -83,7 +83,7 @@ TEST_F(AudioOutputTest, ALoopKeepsTheStreamRunning) {
     auto& mixer = out->mixer();
     int id = mixer.add(realtest::rampWave(480));
     mixer.setVolume(id, -10000);
-    mixer.play(id, true);
+    mixer.play(id, true, monotonicNs());
     out->wake();
     std::this_thread::sleep_for(std::chrono::milliseconds(6 * kSleepMs));
     EXPECT_TRUE(out->streaming());

@@ -1,8 +1,10 @@
 // The mixer driven by hand: blocks rendered at chosen moments of a made-up
-// clock, as the audio callback would.
+// clock, as an output's thread would.
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <functional>
+#include <random>
 #include <vector>
 
 #include "platform/real/mixer.h"
@@ -27,141 +29,125 @@ struct MixerTest : ::testing::Test {
 
     // Renders the next block, on time.
     void render() {
-        mixer.render(out.data(), kBlock, timeOfBlock(blocks));
+        mixer.render(out.data(), kBlock, kStart + blocks * 10000000);
         ++blocks;
     }
-    std::int64_t timeOfBlock(long k) const { return kStart + k * 10000000; }
     // The moment the listener hears device frame `frame`.
-    std::int64_t heardAt(double frame) const { return kStart + std::int64_t((frame + kBlock) * 1e9 / kRate); }
+    static std::int64_t heardAt(double frame) { return kStart + std::int64_t((frame + kBlock) * 1e9 / kRate); }
     float left(int i) const { return out[size_t(2 * i)]; }
     float right(int i) const { return out[size_t(2 * i + 1)]; }
 };
 
-TEST_F(MixerTest, VolumeAndPanFollowTheDecibelRules) {
-    int id = mixer.add(makeWave(1, 16, kRate, std::vector<double>(4000, 0.5)));
-    mixer.setVolume(id, -600);
-    mixer.setPan(id, -1000);
-    mixer.play(id, false);
+TEST_F(MixerTest, VolumeAndPanFollowTheDecibelRulesAndSoundsAddUp) {
+    struct Case {
+        int volume, pan;
+        double left, right;
+    };
+    const Case cases[] = {{0, 0, 1, 1},
+                          {-600, -1000, std::pow(10.0, -0.3), std::pow(10.0, -0.8)},
+                          {-600, 2500, std::pow(10.0, -1.55), std::pow(10.0, -0.3)},
+                          {-10000, 0, 0, 0}};
+    int id = mixer.add(makeWave(1, 16, kRate, std::vector<double>(48000, 0.5)));
+    int other = mixer.add(makeWave(2, 8, kRate, std::vector<double>(96000, 0.25)));
+    mixer.play(id, false, kStart);
+    for (const Case& c : cases) {
+        mixer.setVolume(id, c.volume);
+        mixer.setPan(id, c.pan);
+        render();
+        EXPECT_NEAR(left(10), 0.5 * c.left, 1e-4) << c.volume << " " << c.pan;
+        EXPECT_NEAR(right(10), 0.5 * c.right, 1e-4) << c.volume << " " << c.pan;
+    }
+    mixer.play(other, false, kStart);
     render();
-    double volume = std::pow(10.0, -0.3);
-    EXPECT_NEAR(left(10), 0.5 * volume, 1e-4);
-    EXPECT_NEAR(right(10), 0.5 * volume * std::pow(10.0, -0.5), 1e-4);
-    mixer.setPan(id, 2500);
-    render();
-    EXPECT_NEAR(left(10), 0.5 * volume * std::pow(10.0, -1.25), 1e-4);
-    EXPECT_NEAR(right(10), 0.5 * volume, 1e-4);
-    mixer.setVolume(id, -10000);
-    render();
-    EXPECT_EQ(left(10), 0.0f);
-    EXPECT_EQ(right(10), 0.0f);
+    EXPECT_NEAR(left(10), 0.25, 1e-2) << "a stereo sound adds to the silenced one";
 }
 
-TEST_F(MixerTest, StereoKeepsItsSidesAndSoundsAddUp) {
-    int a = mixer.add(makeWave(2, 16, kRate, {0.5, -0.25, 0.5, -0.25, 0.5, -0.25}));
-    int b = mixer.add(makeWave(1, 8, kRate, {0.25, 0.25, 0.25}));
-    mixer.play(a, false);
-    mixer.play(b, false);
+// One buffer from its first play to its second: play, a second play that
+// does not rewind, stop and go on, the end heard out, and a new start.
+TEST_F(MixerTest, AOneShotsLife) {
+    int id = mixer.add(rampWave(3000));
+    EXPECT_EQ(mixer.status(id, kStart), 0);
+    mixer.play(id, false, kStart);
+    EXPECT_EQ(mixer.status(id, kStart), 1);
     render();
-    EXPECT_NEAR(left(1), 0.75, 1e-2);
-    EXPECT_NEAR(right(1), 0.0, 1e-2);
-}
-
-TEST_F(MixerTest, ResamplesByLinearInterpolation) {
-    int id = mixer.add(rampWave(1000, kRate / 2));
-    mixer.play(id, false);
+    mixer.play(id, false, kStart);
     render();
-    EXPECT_NEAR(left(20), rampValue(10), 1e-4);
-    EXPECT_NEAR(left(21), (rampValue(10) + rampValue(11)) / 2, 1e-4);
-    EXPECT_EQ(mixer.frequency(id), kRate / 2);
-}
-
-TEST_F(MixerTest, LoopWrapsToTheStartAndKeepsPlaying) {
-    int id = mixer.add(rampWave(300));
-    mixer.play(id, true);
-    EXPECT_EQ(mixer.status(id, timeOfBlock(0)), 5);
-    render();
-    EXPECT_NEAR(left(299), rampValue(299), 1e-4);
-    EXPECT_NEAR(left(300), rampValue(0), 1e-4);
-    EXPECT_NEAR(left(479), rampValue(179), 1e-4);
-    render();
-    EXPECT_EQ(mixer.status(id, heardAt(900)), 5);
-    EXPECT_EQ(mixer.position(id, heardAt(750.5)).play, (750 - 600) * 2);
-}
-
-TEST_F(MixerTest, OneShotStopsAtItsEndWithThePositionBackAtZero) {
-    int id = mixer.add(rampWave(200));
-    EXPECT_EQ(mixer.status(id, timeOfBlock(0)), 0);
-    mixer.play(id, false);
-    EXPECT_EQ(mixer.status(id, timeOfBlock(0)), 1);
-    render();
-    EXPECT_NEAR(left(199), rampValue(199), 1e-4);
-    EXPECT_EQ(left(201), 0.0f);
-    // Mixed to its end, but the listener is still in it.
-    EXPECT_EQ(mixer.status(id, heardAt(150)), 1);
-    EXPECT_EQ(mixer.position(id, heardAt(150)).play, 300);
-    EXPECT_EQ(mixer.status(id, heardAt(200.5)), 0);
-    EXPECT_EQ(mixer.position(id, heardAt(200.5)).play, 0);
-    render();
-    EXPECT_EQ(left(0), 0.0f);
-}
-
-TEST_F(MixerTest, PlayOnAPlayingSoundDoesNotRewind) {
-    int id = mixer.add(rampWave(4000));
-    mixer.play(id, false);
-    render();
-    mixer.play(id, false);
-    render();
-    EXPECT_NEAR(left(5), rampValue(kBlock + 5), 1e-4);
-}
-
-TEST_F(MixerTest, StopKeepsThePositionAndZeroRewinds) {
-    int id = mixer.add(rampWave(4000));
-    mixer.play(id, false);
-    render();
-    render();
+    EXPECT_NEAR(left(5), rampValue(kBlock + 5), 1e-4) << "no rewind";
     mixer.stop(id, heardAt(333));
     EXPECT_EQ(mixer.status(id, heardAt(333)), 0);
     EXPECT_EQ(mixer.position(id, heardAt(2000)).play, 333 * 2);
     render();
     EXPECT_EQ(left(0), 0.0f);
-    mixer.play(id, false);
-    render();
-    EXPECT_NEAR(left(0), rampValue(333), 1e-4);
-    mixer.stop(id, timeOfBlock(blocks));
-    mixer.setPosition(id, 0);
-    EXPECT_EQ(mixer.position(id, timeOfBlock(blocks)).play, 0);
-    mixer.play(id, false);
+    mixer.play(id, false, kStart);
+    for (int k = 0; k < 7; ++k) render();   // mixed to its end at device frame 3 * 480 + 2667
+    EXPECT_EQ(mixer.status(id, heardAt(4000.5)), 1) << "mixed out, but still heard";
+    EXPECT_EQ(mixer.position(id, heardAt(4000.5)).play, (4000 - 1440 + 333) * 2);
+    EXPECT_EQ(mixer.status(id, heardAt(4107.5)), 0);
+    EXPECT_EQ(mixer.position(id, heardAt(4107.5)).play, 0) << "back at the start";
+    mixer.play(id, false, heardAt(4200));
     render();
     EXPECT_NEAR(left(7), rampValue(7), 1e-4);
 }
 
-struct Format {
-    int channels, bits, rate;
-};
+TEST_F(MixerTest, ALoopWrapsAndItsCursorStaysInside) {
+    int id = mixer.add(rampWave(300));
+    mixer.play(id, true, kStart);
+    EXPECT_EQ(mixer.status(id, kStart), 5);
+    render();
+    EXPECT_NEAR(left(299), rampValue(299), 1e-4);
+    EXPECT_NEAR(left(300), rampValue(0), 1e-4);
+    render();
+    EXPECT_EQ(mixer.status(id, heardAt(900)), 5);
+    EXPECT_EQ(mixer.position(id, heardAt(750.5)).play, (750 - 600) * 2);
+}
 
 // The play cursor counts bytes of the file's own data at the file's own
-// rate, for the frame the listener hears.
+// rate, for the frame the listener hears; a position set reads back as set.
 TEST_F(MixerTest, PlayCursorInTheFilesBytesForEveryFormat) {
+    struct Format {
+        int channels, bits, rate;
+    };
     const Format formats[] = {{1, 8, 11025}, {1, 16, 22050}, {2, 8, 44100}, {2, 16, 48000}, {2, 16, 96000}};
     for (auto f : formats) {
         Mixer m(kRate, kBlock);
         int id = m.add(makeWave(f.channels, f.bits, f.rate, std::vector<double>(size_t(f.rate * f.channels), 0.1)));
-        m.play(id, false);
-        for (long k = 0; k < 8; ++k) m.render(out.data(), kBlock, timeOfBlock(k));
+        int align = f.channels * f.bits / 8;
+        m.setPosition(id, 7 * align);
+        EXPECT_EQ(m.position(id, kStart).play, 7 * align) << f.rate;
+        m.setPosition(id, 0);
+        m.play(id, false, kStart);
+        for (long k = 0; k < 8; ++k) m.render(out.data(), kBlock, kStart + k * 10000000);
         const double heard = 2345.3;
-        long frame = long(heard * f.rate / kRate);
-        EXPECT_EQ(m.position(id, heardAt(heard)).play, frame * f.channels * f.bits / 8)
+        EXPECT_EQ(m.position(id, heardAt(heard)).play, long(heard * f.rate / kRate) * align)
             << f.channels << " channels, " << f.bits << " bits, " << f.rate << " Hz";
     }
 }
 
-TEST_F(MixerTest, FrequencyIsStored) {
-    int id = mixer.add(rampWave(10, 22050));
-    EXPECT_EQ(mixer.frequency(id), 22050);
-    mixer.setFrequency(id, 22050);
-    EXPECT_EQ(mixer.frequency(id), 22050);
-    mixer.setFrequency(id, 11025);
-    EXPECT_EQ(mixer.frequency(id), 11025);
+// A wave file's tone at 22,050 Hz comes out at the device rate at its level
+// and without the images linear interpolation leaves above it.
+TEST_F(MixerTest, ResampledAtTheirLevelWithoutImages) {
+    for (double hz : {1000.0, 5000.0, 8000.0}) {
+        std::vector<double> tone;
+        for (int i = 0; i < 22050; ++i) tone.push_back(0.5 * std::sin(2 * M_PI * hz * i / 22050));
+        Mixer m(kRate, kBlock);
+        int id = m.add(makeWave(1, 16, 22050, tone));
+        m.play(id, true, kStart);
+        std::vector<float> block(2 * 9600);
+        m.render(block.data(), 9600);
+        m.render(block.data(), 9600);
+        // The level of a frequency in the block, by correlation.
+        auto level = [&](double f) {
+            double c = 0, s = 0;
+            for (int i = 0; i < 9600; ++i) {
+                c += block[size_t(2 * i)] * std::cos(2 * M_PI * f * i / kRate);
+                s += block[size_t(2 * i)] * std::sin(2 * M_PI * f * i / kRate);
+            }
+            return 20 * std::log10(2 * std::hypot(c, s) / 9600 / 0.5);
+        };
+        EXPECT_NEAR(level(hz), 0.0, 0.5) << hz;
+        EXPECT_LT(level(22050 - hz), -60.0) << hz;
+        EXPECT_LT(level(22050 + hz), -60.0) << hz;
+    }
 }
 
 TEST_F(MixerTest, EveryCallOnAMissingIdFails) {
@@ -169,7 +155,7 @@ TEST_F(MixerTest, EveryCallOnAMissingIdFails) {
     mixer.release(id);
     for (int bad : {id, 0, -1, 999}) {
         EXPECT_THROW(mixer.release(bad), platform::Failure);
-        EXPECT_THROW(mixer.play(bad, false), platform::Failure);
+        EXPECT_THROW(mixer.play(bad, false, kStart), platform::Failure);
         EXPECT_THROW(mixer.stop(bad, kStart), platform::Failure);
         EXPECT_THROW(mixer.status(bad, kStart), platform::Failure);
         EXPECT_THROW(mixer.setPosition(bad, 0), platform::Failure);
@@ -181,21 +167,15 @@ TEST_F(MixerTest, EveryCallOnAMissingIdFails) {
     }
 }
 
-TEST_F(MixerTest, ReleaseAllEmptiesTheMixer) {
-    int id = mixer.add(rampWave(4000));
-    mixer.play(id, true);
-    mixer.releaseAll();
-    EXPECT_THROW(mixer.status(id, kStart), platform::Failure);
-    render();
-    EXPECT_EQ(left(3), 0.0f);
-}
-
-TEST_F(MixerTest, SpeechIsMixedToBothSidesAtItsVolumeUntilHeardOut) {
+// Speech goes to both sides at its volume, is heard out, and lets the output
+// go quiet; silence is counted in frames since the last sound.
+TEST_F(MixerTest, SpeechAndQuiet) {
     auto& speech = mixer.speech();
     std::vector<float> words(100, 0.5f);
     speech.setGain(0.5f);
     speech.push(speech.generation(), words.data(), words.size());
-    EXPECT_TRUE(mixer.speechAudible(timeOfBlock(0)));
+    EXPECT_EQ(mixer.quietFrames(), 0);
+    EXPECT_TRUE(mixer.speechAudible(kStart));
     render();
     EXPECT_NEAR(left(99), 0.25, 1e-6);
     EXPECT_NEAR(right(99), 0.25, 1e-6);
@@ -203,67 +183,82 @@ TEST_F(MixerTest, SpeechIsMixedToBothSidesAtItsVolumeUntilHeardOut) {
     EXPECT_TRUE(mixer.speechAudible(heardAt(99)));
     EXPECT_FALSE(mixer.speechAudible(heardAt(100.5)));
     EXPECT_EQ(mixer.nextEndAfter(kStart), heardAt(100));
-}
-
-TEST_F(MixerTest, RenderReportsWhatRanOut) {
-    int looped = mixer.add(rampWave(100));
-    mixer.play(looped, true);
-    EXPECT_FALSE(mixer.render(out.data(), kBlock, timeOfBlock(0)));
-    int once = mixer.add(rampWave(100));
-    mixer.play(once, false);
-    EXPECT_TRUE(mixer.render(out.data(), kBlock, timeOfBlock(1)));
-    EXPECT_EQ(mixer.nextEndAfter(kStart), heardAt(kBlock + 100));
-}
-
-// The stream may stop once the output has been silent for a while: silence
-// is counted in frames, and any sound playing or speech waiting ends it.
-TEST_F(MixerTest, QuietCountsTheSilentBlocksSinceTheLastSound) {
-    render();
-    render();
-    EXPECT_EQ(mixer.quietFrames(), 2 * kBlock);
-    int id = mixer.add(rampWave(100));
-    EXPECT_EQ(mixer.quietFrames(), 2 * kBlock);
-    mixer.play(id, false);
-    EXPECT_EQ(mixer.quietFrames(), 0);
-    render();
-    EXPECT_EQ(mixer.quietFrames(), 0);
     render();
     EXPECT_EQ(mixer.quietFrames(), kBlock);
     int looped = mixer.add(rampWave(100));
-    mixer.play(looped, true);
+    mixer.play(looped, true, kStart);
     mixer.setVolume(looped, -10000);
-    render();
-    EXPECT_EQ(mixer.quietFrames(), 0);
-    mixer.stop(looped, timeOfBlock(blocks));
-    render();
-    EXPECT_EQ(mixer.quietFrames(), kBlock);
-    std::vector<float> words(10, 0.5f);
-    mixer.speech().push(mixer.speech().generation(), words.data(), words.size());
-    EXPECT_EQ(mixer.quietFrames(), 0);
-    render();
-    render();
-    EXPECT_EQ(mixer.quietFrames(), kBlock);
+    EXPECT_EQ(mixer.quietFrames(), 0) << "a silent loop is still a sound";
 }
 
-// After a restart the device asks again from where it stopped, much later.
-TEST_F(MixerTest, ARestartedDeviceTellsPositionsAndEndsFromItsNewStart) {
-    int id = mixer.add(rampWave(4000));
-    mixer.play(id, false);
-    mixer.stop(id, timeOfBlock(0));
-    mixer.setPosition(id, 2 * 100);
-    render();
-    mixer.deviceRestarted();
-    const long later = 500;
-    blocks = later;
-    mixer.play(id, false);
-    EXPECT_EQ(mixer.position(id, timeOfBlock(later)).play, 2 * 100);
-    // The one block handed out before counts as the first; the device now
-    // asks for device frame 480 at the time of block 500.
-    mixer.render(out.data(), kBlock, timeOfBlock(later));
-    EXPECT_NEAR(left(0), rampValue(100), 1e-4);
-    std::int64_t heard = timeOfBlock(later) + std::int64_t((kBlock + 50.5) * 1e9 / kRate);
-    EXPECT_EQ(mixer.position(id, heard).play, 2 * 150);
-    EXPECT_EQ(mixer.status(id, heard), 1);
+// The output renders 60 ms ahead and the game changes something: the mixer
+// goes back to a frame it rendered and renders again from there. What comes
+// out must be exactly what a mixer that knew of the change at that frame
+// renders, for every kind of change.
+TEST(MixerRewrite, RenderedAgainAsIfTheChangeHadBeenKnown) {
+    struct Change {
+        const char* what;
+        std::function<void(Mixer&)> make;
+    };
+    // Sounds 1 to 3: a stereo loop at 22,050 Hz, a one-shot at 11,025 Hz that
+    // ends inside what is rendered ahead, and a stopped one at 48 kHz.
+    const Change changes[] = {
+        {"a sound starts", [](Mixer& m) { m.play(3, false, kStart); }},
+        {"a loop stops", [](Mixer& m) { m.stop(1, kStart); }},
+        {"volume", [](Mixer& m) { m.setVolume(1, -1200); }},
+        {"pan", [](Mixer& m) { m.setPan(1, 3000); }},
+        {"position", [](Mixer& m) { m.setPosition(1, 4000); }},
+        {"frequency", [](Mixer& m) { m.setFrequency(1, 11025); }},
+        {"release", [](Mixer& m) { m.release(1); }},
+        {"a one-shot rendered to its end loops on", [](Mixer& m) { m.play(2, true, kStart); }},
+        {"speech is cut", [](Mixer& m) { m.speech().flush(); }},
+        {"more speech comes", [](Mixer& m) {
+             std::vector<float> more(3000, -0.3f);
+             m.speech().push(m.speech().generation(), more.data(), more.size());
+         }},
+    };
+    auto noise = [](int n, unsigned seed) {
+        std::mt19937 rng(seed);
+        std::vector<double> v;
+        for (int i = 0; i < n; ++i) v.push_back(std::uniform_real_distribution<>(-0.5, 0.5)(rng));
+        return v;
+    };
+    auto start = [&](Mixer& m) {
+        m.add(makeWave(2, 16, 22050, noise(2 * 3000, 1)));
+        m.add(makeWave(1, 8, 11025, noise(500, 2)));
+        m.add(makeWave(1, 16, kRate, noise(4000, 3)));
+        m.play(1, true, kStart);
+        m.play(2, false, kStart);
+        std::vector<float> words(1500, 0.2f);
+        m.speech().push(m.speech().generation(), words.data(), words.size());
+    };
+    auto render = [](Mixer& m, std::int64_t frames, std::vector<float>& into) {
+        std::vector<float> block(size_t(2 * frames));
+        m.render(block.data(), int(frames));
+        into.insert(into.end(), block.begin(), block.end());
+    };
+    for (const Change& c : changes) {
+        Mixer ahead(kRate, 0), knew(kRate, 0);
+        start(ahead);
+        start(knew);
+        std::vector<float> heard, expected;
+        render(ahead, 2880, heard);
+        ahead.takeChange();
+        c.make(ahead);
+        auto from = ahead.takeChange();
+        ASSERT_TRUE(from) << c.what << ": the output must hear of it";
+        std::int64_t at = std::max<std::int64_t>(*from, 1000);
+        heard.resize(size_t(2 * at));
+        ahead.rewind(at);
+        render(ahead, 4000 - at, heard);
+        render(knew, at, expected);
+        c.make(knew);
+        render(knew, 4000 - at, expected);
+        ASSERT_EQ(heard.size(), expected.size());
+        size_t differ = 0;
+        while (differ < heard.size() && heard[differ] == expected[differ]) ++differ;
+        EXPECT_EQ(differ, heard.size()) << c.what << ": first differs at frame " << differ / 2;
+    }
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
-// The pieces behind the speech: the feed, the resampler, the text the
-// synthesiser gets, the voice list and the rate.
+// The pieces behind the speech: the feed, the text the synthesiser gets,
+// the voice list and the rate.
 #include <gtest/gtest.h>
 
 #include <vector>
 
-#include "platform/real/resampler.h"
 #include "platform/real/speech_feed.h"
 #include "platform/real/speech_text.h"
 #include "platform/real/voices.h"
@@ -42,28 +41,6 @@ TEST(SpeechFeed, TakesNoMoreThanFitsAndHandsOutInOrder) {
     EXPECT_EQ(out[2], 1.0f);
     EXPECT_EQ(out[14], 5.0f);
     EXPECT_EQ(feed.endFrame(), 113);
-}
-
-TEST(Resampler, InterpolatesAcrossChunks) {
-    Resampler r(24000, 48000);
-    std::vector<float> out;
-    const short a[] = {0, 1000, 2000}, b[] = {3000, 4000};
-    r.run(a, 3, out);
-    r.run(b, 2, out);
-    ASSERT_GE(out.size(), 7u);
-    for (size_t i = 0; i < 7; ++i) EXPECT_NEAR(out[i] * 32768.0f, 500.0f * float(i), 0.01f) << i;
-}
-
-TEST(Resampler, KeepsTheRateOverALongStream) {
-    Resampler r(22050, 48000);
-    std::vector<float> out;
-    std::vector<short> chunk(220, 100);
-    for (int i = 0; i < 100; ++i) r.run(chunk.data(), int(chunk.size()), out);
-    EXPECT_NEAR(double(out.size()), 22000.0 * 48000 / 22050, 3.0);
-    r.reset();
-    out.clear();
-    r.run(chunk.data(), 2, out);
-    EXPECT_NEAR(out.at(0) * 32768.0f, 100.0f, 0.01f);
 }
 
 TEST(TextForSynth, HyphensBetweenLettersBecomeBlanks) {
