@@ -2,19 +2,25 @@
 """Counts the dropouts of each start of the game, for dropouts.sh.
 
 A dropout in the recording is a run of 32 frames or more in which both
-channels are exactly zero, with sound above -50 dBFS in the 8 frames on
-either side: what a null sink plays when a stream runs dry in the middle of
-a sound, cutting the wave where it stands. The game's own silences (the
-pauses of speech) fade to zero and rise again from it, so their edges are
-far quieter. The recording is placed in time as in key_latency/analyze.py, and
-each start's frames are those played between its start and its end.
+channels are exactly zero inside sound: what a null sink plays when a
+stream runs dry, cutting the wave where it stands and taking it up again
+where it stands. So on both sides of the run the 5 ms next to it are
+audible (above -50 dBFS), and the samples right at the edge are a quarter
+of that stretch's level or more. The game's own silences (the pauses of
+speech) fade to zero and rise again from it: the sample at one edge at
+least is far quieter than the stretch beside it. A recording of speech
+alone (bench_speech_alone, given with --speech) must show no dropout.
+The recording is placed in time as in key_latency/analyze.py, and each
+start's frames are those played between its start and its end.
 
 An underrun is the sound server's report that the game's stream ran out
 ("Implicit underrun" or "Actual underrun" in its debug log) between the
 start and the end, except one followed within 50 ms by the stream's removal:
-a stream that the game closes runs dry as it goes.
+a stream that the game closes runs dry as it goes. The game's stream is
+SDL's "Audio Stream" or our own "Greenlark".
 
 usage: dropouts.py RECPREFIX STARTSFILE PULSELOG
+       dropouts.py --speech RECPREFIX
 """
 import re
 import sys
@@ -23,9 +29,11 @@ import numpy as np
 
 RATE = 48000
 MIN_RUN = 32
-EDGE = 8
+SIDE = RATE // 200
+EDGE = 2
+CUT = 0.25
 LOUD = 32768 * 10 ** (-50 / 20)
-STREAM = "'Audio Stream'"
+STREAMS = ("Audio Stream", "Greenlark")
 
 
 def recording(prefix):
@@ -50,7 +58,7 @@ def sounding(samples, first, last):
 
 
 def gaps(samples, first, last):
-    """Lengths of the silent runs inside sound, in frames [first, last)."""
+    """Lengths of the cuts in frames [first, last)."""
     first, last = max(first, 0), min(last, len(samples))
     if last <= first:
         return []
@@ -60,9 +68,13 @@ def gaps(samples, first, last):
     edges = np.diff(np.concatenate(([0], zero.astype(np.int8), [0])))
     found = []
     for a, b in zip(np.nonzero(edges == 1)[0], np.nonzero(edges == -1)[0]):
-        if b - a < MIN_RUN or a < EDGE or b + EDGE > len(block):
+        if b - a < MIN_RUN or a < SIDE or b + SIDE > len(block):
             continue
-        if level[a - EDGE:a].max() > LOUD and level[b:b + EDGE].max() > LOUD:
+        before = np.sqrt(np.mean(block[a - SIDE:a].astype(float) ** 2))
+        after = np.sqrt(np.mean(block[b:b + SIDE].astype(float) ** 2))
+        if min(before, after) < LOUD:
+            continue
+        if level[a - EDGE:a].max() >= CUT * before and level[b:b + EDGE].max() >= CUT * after:
             found.append(int(b - a))
     return found
 
@@ -78,7 +90,7 @@ def underruns(log, line0, line1):
     count = 0
     for k in range(line0, min(line1, len(log))):
         line = log[k]
-        if "underrun of " + STREAM not in line:
+        if not any(f"underrun of '{name}'" in line for name in STREAMS):
             continue
         t = time_of(line)
         closing = False
@@ -86,7 +98,7 @@ def underruns(log, line0, line1):
             tl = time_of(later)
             if t is not None and tl is not None and tl > t + 0.05:
                 break
-            if "Freeing input" in later and '"Audio Stream"' in later:
+            if "Freeing input" in later and any(f'"{name}"' in later for name in STREAMS):
                 closing = True
                 break
         if not closing:
@@ -94,7 +106,16 @@ def underruns(log, line0, line1):
     return count
 
 
+def speech_alone(prefix):
+    samples, _, _ = recording(prefix)
+    g = gaps(samples, 0, len(samples))
+    print(f"speech alone, {len(samples) / RATE:.1f} s: {len(g)} dropouts found (must be 0)")
+    return 1 if g else 0
+
+
 def main():
+    if sys.argv[1] == "--speech":
+        return speech_alone(sys.argv[2])
     samples, total, returned = recording(sys.argv[1])
     starts = [line.split() for line in open(sys.argv[2])]
     log = open(sys.argv[3], errors="replace").read().splitlines()

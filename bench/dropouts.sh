@@ -5,11 +5,13 @@
 # exact digital silence of 32 frames or more inside audible output (a stream
 # that ran dry, heard as a click on either side) and the underruns that the
 # sound server reports for the game's stream.
-# usage: bench/dropouts.sh [BUILD_DIR[,BUILD_DIR...]] [STARTS] [SECONDS] [LOAD_COMMAND]
+# usage: bench/dropouts.sh [BUILD_DIR[:sdl][,BUILD_DIR...]] [STARTS] [SECONDS] [LOAD_COMMAND]
 #   Several build folders, separated by commas, take their starts in turn, so
-#   that all of them are measured under the same conditions. The word "tone"
-#   in the list stands for bench_tone of the first build: a bare SDL stream
-#   with the game's period playing a tone, whose dropouts are the machine's.
+#   that all of them are measured under the same conditions; ":sdl" after a
+#   folder plays that build through SDL's output (GREENLARK_AUDIO=sdl) instead
+#   of our own stream. The word "tone" in the list stands for bench_tone of
+#   the first build: a bare SDL stream with the game's old period playing a
+#   tone, whose dropouts are the machine's.
 #   SECONDS: how long each start runs (the opening and the name prompt).
 #   LOAD_COMMAND: run in the background for the whole measurement, for
 #   example a parallel build; its process group is stopped at the end.
@@ -22,14 +24,23 @@ SECONDS_EACH=${3:-8}
 LOAD=${4:-}
 . "$HERE/rig.sh"
 for i in "${!BUILDS[@]}"; do
-  [ "${BUILDS[$i]}" = tone ] || BUILDS[$i]=$(cd "${BUILDS[$i]}" && pwd) || exit 1
+  b=${BUILDS[$i]}
+  [ "$b" = tone ] && continue
+  out=pulse
+  [[ $b == *:sdl ]] && { out=sdl; b=${b%:sdl}; }
+  BUILDS[$i]=$(cd "$b" && pwd):$out || exit 1
 done
 BUILD=
-for b in "${BUILDS[@]}"; do [ -z "$BUILD" ] && [ "$b" != tone ] && BUILD=$b; done
+for b in "${BUILDS[@]}"; do [ -z "$BUILD" ] && [ "$b" != tone ] && BUILD=${b%:*}; done
 [ -n "$BUILD" ] || { echo "name a build folder besides tone"; exit 1; }
 rig_need_game
-rig_need bench_record
+rig_need bench_record bench_speech_alone
 [[ " ${BUILDS[*]} " == *" tone "* ]] && rig_need bench_tone
+
+# The rule for a cut, checked on speech alone: the voice's own pauses are no
+# dropouts.
+"$BUILD/bench/bench_speech_alone" "$RIG/speech" >/dev/null
+/usr/bin/python3 "$HERE/dropouts.py" --speech "$RIG/speech"
 
 RIG_PULSE_DEBUG=1 rig_pulse
 rig_xvfb || exit 1
@@ -53,7 +64,8 @@ for ((i = 0; i < STARTS; i++)); do
     if [ "$b" = tone ]; then
       SDL_AUDIODRIVER=pulseaudio "$BUILD/bench/bench_tone" >>"$RIG/game.log" 2>&1 &
     else
-      (cd "$b/game" && exec env SDL_AUDIODRIVER=pulseaudio ./greenlark) >>"$RIG/game.log" 2>&1 &
+      (cd "${b%:*}/game" && exec env SDL_AUDIODRIVER=pulseaudio GREENLARK_AUDIO=${b##*:} ./greenlark) \
+        >>"$RIG/game.log" 2>&1 &
     fi
     game=$!
     sleep "$SECONDS_EACH"

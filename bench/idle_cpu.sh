@@ -1,55 +1,86 @@
 #!/bin/bash
-# CPU use of the real game waiting at a prompt: the name prompt, or the club
-# prompt at the first tee with the crowd and the ambient sounds running.
-# usage: bench/idle_cpu.sh [BUILD_DIR] [AUDIO_DRIVER] [SECONDS] [name|tee]
-#   AUDIO_DRIVER: dummy (default) or pulseaudio (a private null sink; the
-#   sound server's own CPU over the same time is given too)
-# Target: under 2 % of one core.
+# CPU use of the real game waiting at a prompt, and of the sound server
+# beside it (a private PulseAudio with a null sink), over the same seconds:
+#   name  at the name prompt of a first run, once the prompt has been said
+#         and the game's stream has stopped after its quiet stretch;
+#   tee   at the club prompt of the first tee, where the crowd's loop keeps a
+#         stream running (the hole's description is hushed with Ctrl once the
+#         prompt has been queued).
+# Each step waits for the text the game's journal names, not for a time.
+# usage: bench/idle_cpu.sh [BUILD_DIR[:sdl][,BUILD_DIR...]] [SECONDS] [name|tee|both]
+#   ":sdl" plays a build through SDL's output (GREENLARK_AUDIO=sdl).
+# Target: not above SDL's output.
 set -u
 HERE=$(cd "$(dirname "$0")" && pwd)
-BUILD=$(cd "${1:-$HERE/../build-real}" && pwd)
-DRIVER=${2:-dummy}
-SECONDS_MEASURED=${3:-10}
-PLACE=${4:-name}
+IFS=, read -ra BUILDS <<<"${1:-$HERE/../build-real}"
+SECONDS_MEASURED=${2:-10}
+PLACES=${3:-both}
+[ "$PLACES" = both ] && PLACES="name tee"
 . "$HERE/rig.sh"
+BUILD=$(cd "${BUILDS[0]%:sdl}" && pwd) || exit 1
 rig_need_game
 
+rig_pulse
 rig_xvfb || exit 1
-[ "$DRIVER" = pulseaudio ] && rig_pulse
-cd "$BUILD/game" || exit 1
-SDL_AUDIODRIVER=$DRIVER ./greenlark >"$RIG/game.log" 2>&1 &
-GAME=$!
-rig_track $GAME
-WIN=$(rig_window) || { echo "the game's window never came"; exit 1; }
-# The opening jingle and the prompt end well within this.
-sleep 6
-if [ "$PLACE" = tee ]; then
-  # A name, yes, and the hole's description: then the club prompt waits.
-  xdotool key --window "$WIN" a l Return
-  sleep 3
-  xdotool key --window "$WIN" y
-  sleep 25
-fi
+SERVER=$(cat "$XDG_RUNTIME_DIR/pulse/pid")
+PLAYER=$HOME/Documents/brindlewick
 
 ticks() { awk '{print $14 + $15}' "$1"; }
-declare -A before
-for t in /proc/$GAME/task/*; do before[$t]=$(ticks $t/stat); done
-SERVER=
-[ "$DRIVER" = pulseaudio ] && SERVER=$(cat "$XDG_RUNTIME_DIR/pulse/pid")
-[ -n "$SERVER" ] && s0=$(ticks /proc/$SERVER/stat)
-c0=$(ticks /proc/$GAME/stat); t0=$(date +%s.%N)
-sleep "$SECONDS_MEASURED"
-c1=$(ticks /proc/$GAME/stat); t1=$(date +%s.%N)
-[ -n "$SERVER" ] && s1=$(ticks /proc/$SERVER/stat)
-hz=$(getconf CLK_TCK)
-echo "greenlark waiting at the $PLACE prompt, audio driver $DRIVER, ${SECONDS_MEASURED} s"
-for t in /proc/$GAME/task/*; do
-  [ -n "${before[$t]:-}" ] || continue
-  awk -v n="$(cat $t/comm)" -v a="${before[$t]}" -v b="$(ticks $t/stat)" -v hz=$hz -v s="$t0" -v e="$t1" \
-    'BEGIN { printf "  thread %-16s %6.2f %%\n", n, (b - a) / hz / (e - s) * 100 }'
+
+# Waits for TEXT in the journal, then presses KEYS.
+step() {
+  rig_said "$1" "$JOURNAL"
+  shift
+  xdotool key --window "$WIN" "$@"
+}
+
+# The game and the server over SECONDS_MEASURED, as per cent of one core.
+measure() {
+  local g0 s0 t0 g1 s1 t1 hz
+  hz=$(getconf CLK_TCK)
+  g0=$(ticks /proc/$GAME/stat); s0=$(ticks /proc/$SERVER/stat); t0=$(date +%s.%N)
+  sleep "$SECONDS_MEASURED"
+  g1=$(ticks /proc/$GAME/stat); s1=$(ticks /proc/$SERVER/stat); t1=$(date +%s.%N)
+  awk -v g=$((g1 - g0)) -v s=$((s1 - s0)) -v hz="$hz" -v a="$t0" -v b="$t1" -v what="$1" \
+    'BEGIN { printf "  %-44s game %5.2f %%   server %5.2f %%\n", what, g / hz / (b - a) * 100, s / hz / (b - a) * 100 }'
+}
+
+for b in "${BUILDS[@]}"; do
+  out=pulse
+  [[ $b == *:sdl ]] && { out=sdl; b=${b%:sdl}; }
+  echo "== $b, output $out, ${SECONDS_MEASURED} s each (load average $(cut -d' ' -f1 /proc/loadavg))"
+  for place in $PLACES; do
+    rm -rf "$PLAYER"
+    mkdir -p "$PLAYER"
+    # A stored name skips the first run's name prompt.
+    [ "$place" = tee ] && printf '%s\n%s\n0\n95\n0\n0\n0\n0\n0\n\n' " al " 0 >"$PLAYER/golf.cfg"
+    JOURNAL=$RIG/$place.journal
+    (cd "$b/game" && exec env SDL_AUDIODRIVER=pulseaudio GREENLARK_AUDIO=$out ./greenlark --journal "$JOURNAL") \
+      >"$RIG/game.log" 2>&1 &
+    GAME=$!
+    rig_track $GAME
+    WIN=$(rig_window) || { echo "the game's window never came"; exit 1; }
+    if [ "$place" = name ]; then
+      rig_said " Please enter your name. " "$JOURNAL"
+      rig_stream_gone
+      measure "name prompt, stream stopped"
+    else
+      step " correct for your name?" y
+      step " do you wish to use this voice." Return
+      step " select power indicator sound files " Return
+      step " Would you like to read the instructions?" Return
+      step " Would you like to read the special key instructions?" Return
+      step " Would you like to read the hints?" Return
+      step " use ball washer " Return
+      sleep 1
+      xdotool key --window "$WIN" Return
+      step " golf-course " Return
+      step " Please Pick A-Course To Play. " Return
+      step " Select Your Club." ctrl
+      measure "first tee, club prompt, the crowd's loop playing"
+    fi
+    kill -9 $GAME
+    wait $GAME 2>/dev/null
+    for _ in $(seq 50); do xdotool search --name Greenlark >/dev/null 2>&1 || break; sleep 0.1; done
+  done
 done
-awk -v a=$c0 -v b=$c1 -v hz=$hz -v s="$t0" -v e="$t1" \
-  'BEGIN { printf "CPU of the whole process: %.2f %% of one core (target: under 2 %%)\n", (b - a) / hz / (e - s) * 100 }'
-[ -n "$SERVER" ] && awk -v a=$s0 -v b=$s1 -v hz=$hz -v s="$t0" -v e="$t1" \
-  'BEGIN { printf "CPU of the PulseAudio server: %.2f %% of one core\n", (b - a) / hz / (e - s) * 100 }'
-true

@@ -12,6 +12,12 @@
 #   rig_letters WINDOW PRESSES INTERVAL OUT  presses letter keys, notes when
 #   rig_speechd    starts speech-dispatcher on the private PulseAudio (after
 #                  rig_pulse); stops the script when it is not installed
+#   rig_said TEXT JOURNAL  waits until the game's journal names TEXT: the
+#                  game writes each text there as it begins to say it
+#   rig_quiet MS   waits until the last MS milliseconds of the recording are
+#                  silent (below -50 dBFS): what was said has been heard out
+#   rig_stream_gone  waits until the private server plays no stream: the
+#                  game's stream stopped after its two quiet seconds
 
 RIG=$(mktemp -d "${TMPDIR:-/tmp}/greenlark-bench-XXXXXX")
 RIG_PIDS=()
@@ -106,4 +112,34 @@ rig_speechd() {
   speech-dispatcher -d -t 0 2>/dev/null
   for _ in $(seq 50); do [ -e "$pidfile" ] && break; sleep 0.1; done
   rig_track "$(cat "$pidfile")"
+}
+
+rig_said() {
+  for _ in $(seq 600); do grep -qF "$1" "$2" 2>/dev/null && return 0; sleep 0.1; done
+  echo "the game never said \"$1\""
+  exit 1
+}
+
+rig_quiet() {
+  /usr/bin/python3 - "$RIG/rec.raw" "$1" <<'PY' || { echo "the game never fell silent"; exit 1; }
+import os, sys, time
+import numpy as np
+path, ms = sys.argv[1], int(sys.argv[2])
+tail = ms * 48 * 4
+for _ in range(1200):
+    size = os.path.getsize(path)
+    if size > tail:
+        with open(path, "rb") as f:
+            f.seek(size - tail)
+            if np.abs(np.frombuffer(f.read(tail), dtype="<i2")).max() < 32768 * 10 ** (-50 / 20):
+                sys.exit(0)
+    time.sleep(0.05)
+sys.exit(1)
+PY
+}
+
+rig_stream_gone() {
+  for _ in $(seq 600); do [ -z "$(pactl list short sink-inputs 2>/dev/null)" ] && return 0; sleep 0.1; done
+  echo "the game's stream never stopped"
+  exit 1
 }

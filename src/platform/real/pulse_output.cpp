@@ -24,9 +24,10 @@ struct Locked {
 };
 
 struct Waiting {
-    pa_threaded_mainloop* loop;
+    pa_threaded_mainloop* loop = nullptr;
     bool over = false;
     int rate = 0;
+    std::string sink;
 };
 
 void timedOut(pa_mainloop_api*, pa_time_event*, const struct timeval*, void* waiting) {
@@ -48,10 +49,28 @@ bool waitUntil(Waiting& w, Done done) {
     return done();
 }
 
+// The server's default rate, and its default sink.
 void serverInfo(pa_context*, const pa_server_info* info, void* waiting) {
     auto* w = static_cast<Waiting*>(waiting);
     w->rate = info && pa_sample_spec_valid(&info->sample_spec) ? int(info->sample_spec.rate) : -1;
+    if (info && info->default_sink_name) w->sink = info->default_sink_name;
     pa_threaded_mainloop_signal(w->loop, 0);
+}
+
+// The default sink's own rate, which spares the server resampling our
+// stream.
+void sinkInfo(pa_context*, const pa_sink_info* info, int eol, void* waiting) {
+    auto* w = static_cast<Waiting*>(waiting);
+    if (info && pa_sample_spec_valid(&info->sample_spec)) w->rate = int(info->sample_spec.rate);
+    if (eol) w->sink.clear();
+    pa_threaded_mainloop_signal(w->loop, 0);
+}
+
+template <class Done>
+void ask(Waiting& w, pa_operation* asked, Done done) {
+    if (!asked) return;
+    waitUntil(w, done);
+    pa_operation_unref(asked);
 }
 
 }  // namespace
@@ -80,15 +99,16 @@ void PulseOutput::start(std::uint32_t wakeEvent) {
         pa_threaded_mainloop_start(loop_) < 0)
         throw Failure("no PulseAudio server");
     Locked lock(loop_);
-    Waiting w{loop_};
+    Waiting w;
+    w.loop = loop_;
     auto settled = [this] { return !PA_CONTEXT_IS_GOOD(pa_context_get_state(context_)) ||
                                    pa_context_get_state(context_) == PA_CONTEXT_READY; };
     if (!waitUntil(w, settled) || pa_context_get_state(context_) != PA_CONTEXT_READY)
         throw Failure("no PulseAudio server answers");
-    pa_operation* asked = pa_context_get_server_info(context_, serverInfo, &w);
-    bool told = waitUntil(w, [&w] { return w.rate != 0; });
-    if (asked) pa_operation_unref(asked);
-    if (!told || w.rate <= 0) throw Failure("the PulseAudio server did not tell its rate");
+    ask(w, pa_context_get_server_info(context_, serverInfo, &w), [&w] { return w.rate != 0; });
+    if (!w.sink.empty())
+        ask(w, pa_context_get_sink_info_by_name(context_, w.sink.c_str(), sinkInfo, &w), [&w] { return w.sink.empty(); });
+    if (w.rate <= 0) throw Failure("the PulseAudio server did not tell its rate");
     rate_ = std::clamp(w.rate, 8000, 192000);
     mixer_ = std::make_unique<Mixer>(rate_, 0);
     waker_ = std::make_unique<Waker>(*mixer_, wakeEvent);
