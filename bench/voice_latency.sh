@@ -10,13 +10,18 @@
 # again and F8 silences it (nothing is said after F8): each F8 is a cut,
 # measured to the last audible sample. Then n brings the name prompt, where
 # every letter key is answered by speaking the letter: key to the first
-# audible sample. The game writes a journal, which tells the script when a
-# prompt has been reached.
-# usage: bench/voice_latency.sh [BUILD_DIR] [PRESSES] [INTERVAL_MS] [CUTS]
-# Targets: 10 ms (median) to the answer; silenced within 50 ms.
+# audible sample, once the prompt has been heard out. The game writes a
+# journal, which tells the script when a prompt has been reached.
+# usage: bench/voice_latency.sh [BUILD_DIR[:sdl][,BUILD_DIR...]] [PRESSES] [INTERVAL_MS] [CUTS]
+#   Every build folder is measured with the embedded voice, the first with
+#   speech-dispatcher's as well; ":sdl" plays a build through SDL's output
+#   (GREENLARK_AUDIO=sdl) instead of our own stream.
+# Targets: embedded voice, median 3 ms and p90 5 ms to the answer, median
+# 3 ms to silence; either voice silenced within 50 ms.
 set -u
 HERE=$(cd "$(dirname "$0")" && pwd)
-BUILD=$(cd "${1:-$HERE/../build-real}" && pwd)
+IFS=, read -ra BUILDS <<<"${1:-$HERE/../build-real}"
+BUILD=$(cd "${BUILDS[0]%:sdl}" && pwd) || exit 1
 PRESSES=${2:-30}
 INTERVAL=${3:-400}
 CUTS=${4:-10}
@@ -38,52 +43,54 @@ mkdir -p "$PLAYER"
 rig_recorder
 sleep 3
 
-# Waits until the game has begun to say TEXT: its journal names every text
-# as it is spoken.
-said() {
-  for _ in $(seq 300); do grep -qF "$1" "$2" 2>/dev/null && return 0; sleep 0.1; done
-  echo "the game never said \"$1\""
-  exit 1
-}
-
-# One start of the game with voice $2, its keys noted under $RIG/$1.
+# One start of build $3 (with :sdl or not) with voice $2, its keys noted
+# under $RIG/$1.
 measure() {
-  local label=$1 voice=$2
+  local label=$1 voice=$2 build=${3%:sdl} out=pulse
+  [[ $3 == *:sdl ]] && out=sdl
   printf '%s\n%s\n0\n95\n0\n0\n0\n0\n0\n\n' "$NAME" "$voice" >"$PLAYER/golf.cfg"
-  (cd "$BUILD/game" && exec env SDL_AUDIODRIVER=pulseaudio ./greenlark --journal "$RIG/$label.journal") \
-    >"$RIG/$label.log" 2>&1 &
+  (cd "$build/game" && exec env SDL_AUDIODRIVER=pulseaudio GREENLARK_AUDIO=$out ./greenlark \
+    --journal "$RIG/$label.journal") >"$RIG/$label.log" 2>&1 &
   local game=$!
   rig_track $game
   local window
   window=$(rig_window) || { echo "the game's window never came"; exit 1; }
-  said " correct for your name?" "$RIG/$label.journal"
+  rig_said " correct for your name?" "$RIG/$label.journal"
   sleep 1
   "$BUILD/bench/bench_keys" "$window" $((2 * CUTS)) $CUT_STEP F1 F8 >"$RIG/$label.question"
   awk '$3 == "F8" { print "cut", $2 }' "$RIG/$label.question" >"$RIG/$label.cuts"
   # No: the name prompt, spoken and done before the first letter.
   xdotool key --window "$window" n
-  said " Please enter your name. " "$RIG/$label.journal"
-  sleep 2.5
+  rig_said " Please enter your name. " "$RIG/$label.journal"
+  rig_quiet 700
   rig_letters "$window" "$PRESSES" "$INTERVAL" "$RIG/$label.keys"
   sleep 0.5
   kill -9 $game
   wait $game 2>/dev/null
+  for _ in $(seq 50); do xdotool search --name Greenlark >/dev/null 2>&1 || break; sleep 0.1; done
 }
 
-measure embedded 0
-measure dispatcher "$DISPATCHER"
+LABELS=()
+for n in "${!BUILDS[@]}"; do
+  measure "embedded$n" 0 "${BUILDS[$n]}"
+  LABELS+=("embedded$n")
+done
+measure dispatcher "$DISPATCHER" "${BUILDS[0]}"
 kill $RECORDER
 wait $RECORDER
 
 declare -A MEDIAN
-for label in embedded dispatcher; do
-  echo "== $label voice: $PRESSES letter keys every $INTERVAL ms at the name prompt, $CUTS cuts with F8"
+echo "load average: $(cut -d' ' -f1-3 /proc/loadavg)"
+for label in "${LABELS[@]}" dispatcher; do
+  what=$label
+  [[ $label == embedded* ]] && what="embedded voice, ${BUILDS[${label#embedded}]}"
+  echo "== $what: $PRESSES letter keys every $INTERVAL ms at the name prompt, $CUTS cuts with F8"
   out=$(/usr/bin/python3 "$HERE/key_latency/analyze.py" "$RIG/rec" "$RIG/$label.keys")
   echo "$out"
   MEDIAN[$label]=$(sed -n 's/.*median \([0-9.]*\) ms.*/\1/p' <<<"$out")
   /usr/bin/python3 "$HERE/key_latency/cutoff.py" "$RIG/rec" "$RIG/$label.cuts"
 done
-if [ -n "${MEDIAN[embedded]}" ] && [ -n "${MEDIAN[dispatcher]}" ]; then
-  awk -v e="${MEDIAN[embedded]}" -v d="${MEDIAN[dispatcher]}" \
+if [ -n "${MEDIAN[embedded0]}" ] && [ -n "${MEDIAN[dispatcher]}" ]; then
+  awk -v e="${MEDIAN[embedded0]}" -v d="${MEDIAN[dispatcher]}" \
     'BEGIN { if (e > 0) printf "speech-dispatcher against embedded, key to audible, median: %.1f times\n", d / e }'
 fi
