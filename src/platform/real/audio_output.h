@@ -32,6 +32,8 @@ public:
     bool streaming() const { return pulse_ ? pulse_->streaming() : sdl_->streaming(); }
     // "pulse" or "sdl".
     std::string kind() const { return pulse_ ? "pulse" : "sdl"; }
+    // True while changes are written over what is buffered.
+    bool rewrites() const { return pulse_ && pulse_->rewrites(); }
 
 private:
     std::unique_ptr<PulseOutput> pulse_;

@@ -1,3 +1,6 @@
+// The listener's place from the device's requests (or the server's reports
+// of how far it has read): punctual ones mark the clock, late ones do not
+// move it, a stall is followed, a restart starts anew.
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -10,53 +13,29 @@ namespace {
 using platform::real::DeviceClock;
 
 constexpr std::int64_t kStart = 7000000000;
-constexpr double kNsPerFrame = 1e9 / 48000;
 
-std::int64_t at(double frame) { return kStart + std::int64_t(frame * kNsPerFrame); }
+std::int64_t at(double frame) { return kStart + std::int64_t(frame * 1e9 / 48000); }
 
-TEST(DeviceClock, NothingIsHeardBeforeTheFirstRequest) {
-    DeviceClock clock(48000, 256);
-    EXPECT_EQ(clock.heardFrame(kStart), 0.0);
-}
-
-TEST(DeviceClock, TheListenerIsTheLatencyBehindThePunctualRequests) {
-    DeviceClock clock(48000, 256);
-    for (int k = 0; k < 10; ++k) clock.handedOut(k * 256, 256, at(k * 256));
-    EXPECT_NEAR(clock.heardFrame(at(9 * 256 + 100)), 9 * 256 + 100 - 256, 0.01);
-    EXPECT_NEAR(double(clock.timeOfFrame(1000)), double(at(1256)), 1.0);
-}
-
-TEST(DeviceClock, LateRequestsDoNotMoveTheEstimate) {
-    DeviceClock clock(48000, 256);
-    std::mt19937 rng(3);
-    std::uniform_real_distribution<double> late(0, 200);
-    clock.handedOut(0, 256, at(0));
-    for (int k = 1; k < 40; ++k) clock.handedOut(k * 256, 256, at(k * 256 + late(rng)));
-    EXPECT_NEAR(clock.heardFrame(at(39 * 256 + 10)), 39 * 256 + 10 - 256, 0.01);
-}
-
-TEST(DeviceClock, NeverPastWhatWasHandedOut) {
-    DeviceClock clock(48000, 256);
-    clock.handedOut(0, 256, at(0));
-    EXPECT_EQ(clock.heardFrame(at(100000)), 256.0);
-}
-
-TEST(DeviceClock, AfterAStallTheDeviceIsFollowedWithinAFewRequests) {
-    DeviceClock clock(48000, 256);
-    for (int k = 0; k < 60; ++k) clock.handedOut(k * 256, 256, at(k * 256));
-    // The device stopped for twenty milliseconds and goes on from where it was.
-    const double gap = 960;
-    for (int k = 60; k < 60 + DeviceClock::kRecent; ++k) clock.handedOut(k * 256, 256, at(k * 256 + gap));
-    const int last = 60 + DeviceClock::kRecent - 1;
-    EXPECT_NEAR(clock.heardFrame(at(last * 256 + gap + 10)), last * 256 + 10 - 256, 0.01);
-}
-
-TEST(DeviceClock, SmallLatenessIsJitterNotAStall) {
-    DeviceClock clock(48000, 256);
-    for (int k = 0; k < 60; ++k) clock.handedOut(k * 256, 256, at(k * 256));
-    const double late = 48;   // one millisecond
-    for (int k = 60; k < 70; ++k) clock.handedOut(k * 256, 256, at(k * 256 + late));
-    EXPECT_NEAR(clock.heardFrame(at(69 * 256 + late)), 69 * 256 + late - 256, 0.01);
+TEST(DeviceClock, TheListenerFollowsTheEarliestRequests) {
+    struct Case {
+        const char* what;
+        double lateBy;   // frames, for requests 60 to 67
+        double heard;    // at the time of request 67 plus 10 frames
+    };
+    const Case cases[] = {
+        {"punctual", 0, 67 * 256 + 10 - 256},
+        {"a millisecond late is jitter", 48, 67 * 256 + 10 - 256 + 48},
+        {"twenty milliseconds late is a stall, followed", 960, 67 * 256 + 10 - 256},
+    };
+    for (const Case& c : cases) {
+        DeviceClock clock(48000, 256);
+        EXPECT_EQ(clock.heardFrame(kStart), 0.0) << "nothing before the first request";
+        std::mt19937 rng(3);
+        for (int k = 0; k < 60; ++k) clock.handedOut(k * 256, 256, at(k * 256 + (k % 2) * std::uniform_real_distribution<>(0, 200)(rng)));
+        for (int k = 60; k < 68; ++k) clock.handedOut(k * 256, 256, at(k * 256 + c.lateBy));
+        EXPECT_NEAR(clock.heardFrame(at(67 * 256 + c.lateBy + 10)), c.heard, 0.01) << c.what;
+        EXPECT_EQ(clock.heardFrame(at(100000)), 68 * 256.0) << "never past what was handed out";
+    }
 }
 
 // The stream stopped after a quiet stretch and starts again much later: what

