@@ -127,6 +127,8 @@ void PulseOutput::release() {
             Locked lock(loop_);
             closeStream();
             pa_mainloop_api* api = pa_threaded_mainloop_get_api(loop_);
+            if (drain_) api->time_free(drain_);
+            drain_ = nullptr;
             if (pokeEvent_) api->io_free(pokeEvent_);
             pokeEvent_ = nullptr;
             if (context_) {
@@ -145,8 +147,30 @@ void PulseOutput::release() {
     pokeFd_ = -1;
 }
 
-void PulseOutput::contextState(pa_context*, void* self) {
-    pa_threaded_mainloop_signal(static_cast<PulseOutput*>(self)->loop_, 0);
+// A server that goes away leaves the mixer draining; one that comes back
+// takes the next sound.
+void PulseOutput::contextState(pa_context* c, void* self) {
+    auto* out = static_cast<PulseOutput*>(self);
+    pa_threaded_mainloop_signal(out->loop_, 0);
+    if (!out->pokeEvent_) return;
+    if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(c))) {
+        out->closeStream();
+        out->startDrain();
+    } else if (pa_context_get_state(c) == PA_CONTEXT_READY && out->drain_) {
+        out->openStream();
+    }
+}
+
+void PulseOutput::reconnect() {
+    std::int64_t now = monotonicNs();
+    if (now - triedAt_ < 1000000000) return;
+    triedAt_ = now;
+    pa_context_set_state_callback(context_, nullptr, nullptr);
+    pa_context_disconnect(context_);
+    pa_context_unref(context_);
+    context_ = pa_context_new(pa_threaded_mainloop_get_api(loop_), "Greenlark");
+    pa_context_set_state_callback(context_, contextState, this);
+    pa_context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr);
 }
 
 // Any thread: the main loop's thread wakes and looks at the mixer.

@@ -11,7 +11,10 @@
 //
 // A server that will not take such a write over is written to by appending
 // only, with a small buffer. After two seconds of silence the stream goes
-// away, and the next sound or speech opens a new one.
+// away, and the next sound or speech opens a new one. While no stream can
+// play (the server went away), the mixer runs on into nothing at the
+// device's pace, so that every sound and every text still ends when it
+// would have, and the next sound tries the server again.
 #pragma once
 
 #include <pulse/pulseaudio.h>
@@ -68,6 +71,9 @@ private:
     void heard();
     void verify();
     bool maySleep();
+    void startDrain();
+    void drain();
+    void reconnect();
     std::int64_t framesIn(double ms) const { return std::int64_t(ms * rate_ / 1000); }
 
     static void contextState(pa_context* c, void* self);
@@ -77,6 +83,7 @@ private:
     static void verified(pa_stream* s, int success, void* self);
     static void poked(pa_mainloop_api* api, pa_io_event* e, int fd, pa_io_event_flags_t flags, void* self);
     static void ticked(pa_mainloop_api* api, pa_time_event* e, const struct timeval* tv, void* self);
+    static void drained(pa_mainloop_api* api, pa_time_event* e, const struct timeval* tv, void* self);
 
     pa_threaded_mainloop* loop_ = nullptr;
     pa_context* context_ = nullptr;
@@ -89,6 +96,10 @@ private:
     pa_stream* stream_ = nullptr;
     pa_time_event* tick_ = nullptr;
     pa_io_event* pokeEvent_ = nullptr;
+    pa_time_event* drain_ = nullptr;
+    std::int64_t drainFrom_ = 0;     // the device frame and the moment the drain began
+    std::int64_t drainSince_ = 0;
+    std::int64_t triedAt_ = 0;       // the last time the server was tried again
     std::int64_t base_ = 0;          // the device frame at the stream's first byte
     std::vector<float> block_;
     bool verifying_ = false;         // a write over awaits the server's word

@@ -20,6 +20,8 @@ constexpr int kRequestMs = 28;
 }  // namespace
 
 void PulseOutput::openStream() {
+    if (drain_) pa_threaded_mainloop_get_api(loop_)->time_free(drain_);
+    drain_ = nullptr;
     pa_sample_spec spec{PA_SAMPLE_FLOAT32NE, std::uint32_t(rate_), 2};
     stream_ = pa_stream_new(context_, "Greenlark", &spec, nullptr);
     if (!stream_) return;
@@ -72,6 +74,8 @@ void PulseOutput::onPoke() {
     if (stream_ && !PA_STREAM_IS_GOOD(pa_stream_get_state(stream_))) closeStream();
     if (!stream_) {
         if (pa_context_get_state(context_) == PA_CONTEXT_READY) openStream();
+        else if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(context_))) reconnect();
+        if (!stream_) startDrain();
         return;
     }
     if (pa_stream_get_state(stream_) == PA_STREAM_READY) rewrite();
@@ -84,6 +88,7 @@ void PulseOutput::ticked(pa_mainloop_api*, pa_time_event*, const struct timeval*
 void PulseOutput::onTick() {
     if (!stream_ || !PA_STREAM_IS_GOOD(pa_stream_get_state(stream_))) {
         closeStream();
+        startDrain();
         return;
     }
     if (pa_stream_get_state(stream_) == PA_STREAM_READY) {
@@ -120,6 +125,35 @@ void PulseOutput::heard() {
     if (pa_timeval_cmp(&real, &t->timestamp) < 0) ago = -ago;
     std::int64_t read = base_ + t->read_index / std::int64_t(kFrameBytes);
     mixer_->reached(read, (before + after) / 2 - ago);
+}
+
+void PulseOutput::startDrain() {
+    if (drain_ || stream_ || maySleep()) return;
+    mixer_->deviceRestarted();
+    drainFrom_ = mixer_->rendered();
+    drainSince_ = monotonicNs();
+    drain_ = pa_context_rttime_new(context_, pa_rtclock_now() + kTickMs * PA_USEC_PER_MSEC, drained, this);
+}
+
+void PulseOutput::drained(pa_mainloop_api* api, pa_time_event*, const struct timeval*, void* self) {
+    auto* out = static_cast<PulseOutput*>(self);
+    out->drain();
+    if (out->maySleep()) {
+        api->time_free(out->drain_);
+        out->drain_ = nullptr;
+    } else {
+        pa_context_rttime_restart(out->context_, out->drain_, pa_rtclock_now() + kTickMs * PA_USEC_PER_MSEC);
+    }
+}
+
+// Renders up to the moment and throws it away.
+void PulseOutput::drain() {
+    std::int64_t now = monotonicNs();
+    std::int64_t to = drainFrom_ + (now - drainSince_) * rate_ / 1000000000;
+    std::int64_t from = mixer_->rendered();
+    block_.resize(std::size_t(std::max<std::int64_t>(to - from, 0)) * 2);
+    if (to > from && mixer_->render(block_.data(), int(to - from))) waker_->notify();
+    mixer_->reached(to, now);
 }
 
 void PulseOutput::topUp() {

@@ -95,9 +95,7 @@ protected:
         for (auto [name, value] : {std::pair<const char*, std::string>{"HOME", (dir / "home").string()},
                                    {"XDG_RUNTIME_DIR", (dir / "xdg").string()}, {"PULSE_SERVER", ""}, {"SDL_AUDIODRIVER", ""}})
             env.set(name, value);
-        ASSERT_EQ(sh("pulseaudio -D -n --exit-idle-time=-1 --disallow-exit --load=module-native-protocol-unix "
-                     "--load='module-null-sink sink_name=cap rate=48000 format=s16le channels=2' --log-target=file:" + (dir / "pulse.log").string()), 0);
-        for (int i = 0; i < 200 && sh("pactl set-default-sink cap 2>/dev/null") != 0; ++i) std::this_thread::sleep_for(100ms);
+        ASSERT_TRUE(startServer());
         recorder = popen("exec parec -d cap.monitor --raw --format=s16le --rate=48000 --channels=2 --latency-msec=2", "r");
         ASSERT_TRUE(recorder);
         reader = std::thread([this] {
@@ -110,11 +108,19 @@ protected:
     }
     void TearDown() override {
         stopRecording();
-        sh("kill $(cat " + (dir / "xdg/pulse/pid").string() + ") 2>/dev/null");
-        for (int i = 0; i < 100 && fs::exists(dir / "xdg/pulse/pid"); ++i) std::this_thread::sleep_for(100ms);
+        stopServer();
         fs::remove_all(dir);
     }
     static int sh(const std::string& command) { return std::system(command.c_str()); }
+    bool startServer() {
+        sh("pulseaudio -D -n --exit-idle-time=-1 --disallow-exit --load=module-native-protocol-unix --log-target=file:" +
+           (dir / "pulse.log").string() + " --load='module-null-sink sink_name=cap rate=48000 format=s16le channels=2'");
+        return eventually([] { return sh("pactl set-default-sink cap 2>/dev/null") == 0; });
+    }
+    void stopServer() {
+        sh("kill $(cat " + (dir / "xdg/pulse/pid").string() + ") 2>/dev/null");
+        eventually([&] { return !fs::exists(dir / "xdg/pulse/pid"); });
+    }
     void stopRecording() {
         if (!recorder) return;
         sh("pkill -P " + std::to_string(getpid()) + " -x parec");
@@ -186,6 +192,16 @@ TEST_F(LivePulse, OurStreamPlaysWhereItsCursorSaysAndSleepsWhenQuiet) {
     }
     ASSERT_GT(measured, 100);
     EXPECT_GE(near * 10, measured * 9) << near << " of " << measured << " cursors within 1 ms of the sound";
+    // The server goes away: what was to be heard still ends, in silence.
+    stopServer();
+    std::vector<float> words(48000, 0.25f);
+    mixer.speech().push(mixer.speech().generation(), words.data(), words.size());
+    out.wake();
+    EXPECT_TRUE(eventually([&] { return !mixer.speechAudible(monotonicNs()); })) << "speech never ended";
+    ASSERT_TRUE(startServer());
+    mixer.play(id, false, monotonicNs());
+    out.wake();
+    EXPECT_TRUE(eventually([&] { return out.streaming(); })) << "the server came back, and the stream with it";
 }
 
 }  // namespace
