@@ -1,6 +1,7 @@
 #!/bin/bash
 # CPU use of the real game waiting at a prompt, and of the sound server
-# beside it (a private PulseAudio with a null sink), over the same seconds:
+# beside it (a private PulseAudio with a null sink, or PipeWire with
+# RIG_SERVER=pipewire), over the same seconds:
 #   name  at the name prompt of a first run, once the prompt has been said
 #         and the game's stream has stopped after its quiet stretch;
 #   tee   at the club prompt of the first tee, where the crowd's loop keeps a
@@ -22,10 +23,14 @@ rig_need_game
 
 rig_pulse
 rig_xvfb || exit 1
-SERVER=$(cat "$XDG_RUNTIME_DIR/pulse/pid")
 PLAYER=$HOME/Documents/brindlewick
 
 ticks() { awk '{print $14 + $15}' "$1"; }
+serverTicks() {
+  local sum=0 p
+  for p in "${RIG_SERVERS[@]}"; do sum=$((sum + $(ticks /proc/$p/stat))); done
+  echo $sum
+}
 
 # Waits for TEXT in the journal, then presses KEYS.
 step() {
@@ -38,9 +43,9 @@ step() {
 measure() {
   local g0 s0 t0 g1 s1 t1 hz
   hz=$(getconf CLK_TCK)
-  g0=$(ticks /proc/$GAME/stat); s0=$(ticks /proc/$SERVER/stat); t0=$(date +%s.%N)
+  g0=$(ticks /proc/$GAME/stat); s0=$(serverTicks); t0=$(date +%s.%N)
   sleep "$SECONDS_MEASURED"
-  g1=$(ticks /proc/$GAME/stat); s1=$(ticks /proc/$SERVER/stat); t1=$(date +%s.%N)
+  g1=$(ticks /proc/$GAME/stat); s1=$(serverTicks); t1=$(date +%s.%N)
   awk -v g=$((g1 - g0)) -v s=$((s1 - s0)) -v hz="$hz" -v a="$t0" -v b="$t1" -v what="$1" \
     'BEGIN { printf "  %-44s game %5.2f %%   server %5.2f %%\n", what, g / hz / (b - a) * 100, s / hz / (b - a) * 100 }'
 }

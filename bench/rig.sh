@@ -3,7 +3,11 @@
 # process id when the script ends.
 #   rig_pulse      starts PulseAudio (sets HOME and XDG_RUNTIME_DIR); with
 #                  RIG_PULSE_DEBUG=1 its log in $RIG/pulse.log is at debug
-#                  level with times, which names every underrun of a stream
+#                  level with times, which names every underrun of a stream.
+#                  RIG_SERVER=pipewire starts PipeWire with its pulse layer
+#                  and WirePlumber instead (on a session bus of its own),
+#                  with the same null sink "cap"; it names no underruns.
+#                  RIG_SERVERS holds the server's process ids
 #   rig_xvfb       starts Xvfb on a free display (sets DISPLAY)
 #   rig_window     waits for the game's window, prints its id
 #   rig_track PID  stops PID when the script ends
@@ -39,6 +43,7 @@ trap rig_stop EXIT
 rig_pulse() {
   export HOME=$RIG/home XDG_RUNTIME_DIR=$RIG/xdg
   mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+  [ "${RIG_SERVER:-}" = pipewire ] && { rig_pipewire; return; }
   # Run as root without a session bus: warnings about both are harmless.
   local level=()
   [ -n "${RIG_PULSE_DEBUG:-}" ] && level=(--log-level=debug --log-time=1)
@@ -47,8 +52,27 @@ rig_pulse() {
     --load="module-null-sink sink_name=cap rate=48000 format=s16le channels=2" \
     --log-target=file:"$RIG/pulse.log" 2>/dev/null
   for _ in $(seq 50); do pactl info >/dev/null 2>&1 && break; sleep 0.1; done
-  rig_track "$(cat "$XDG_RUNTIME_DIR/pulse/pid")"
+  RIG_SERVERS=("$(cat "$XDG_RUNTIME_DIR/pulse/pid")")
+  rig_track "${RIG_SERVERS[0]}"
   pactl set-default-sink cap
+}
+
+rig_pipewire() {
+  local p
+  dbus-daemon --session --fork --address="unix:path=$RIG/bus" --print-pid=3 3>"$RIG/dbus.pid" || exit 1
+  rig_track "$(cat "$RIG/dbus.pid")"
+  export DBUS_SESSION_BUS_ADDRESS=unix:path=$RIG/bus
+  RIG_SERVERS=()
+  for p in pipewire wireplumber pipewire-pulse; do
+    "$p" >"$RIG/$p.log" 2>&1 &
+    rig_track $!
+    RIG_SERVERS+=($!)
+    [ $p = pipewire ] && sleep 1
+  done
+  for _ in $(seq 50); do pactl info >/dev/null 2>&1 && break; sleep 0.1; done
+  pactl load-module module-null-sink sink_name=cap rate=48000 format=s16le channels=2 >/dev/null
+  for _ in $(seq 50); do pactl set-default-sink cap 2>/dev/null && break; sleep 0.1; done
+  touch "$RIG/pulse.log"
 }
 
 rig_xvfb() {
