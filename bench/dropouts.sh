@@ -26,12 +26,12 @@ LOAD=${4:-}
 for i in "${!BUILDS[@]}"; do
   b=${BUILDS[$i]}
   [ "$b" = tone ] && continue
-  out=pulse
-  [[ $b == *:sdl ]] && { out=sdl; b=${b%:sdl}; }
-  BUILDS[$i]=$(cd "$b" && pwd):$out || exit 1
+  out=
+  [[ $b == *:sdl ]] && { out=:sdl; b=${b%:sdl}; }
+  BUILDS[$i]=$(cd "$b" && pwd)$out || exit 1
 done
 BUILD=
-for b in "${BUILDS[@]}"; do [ -z "$BUILD" ] && [ "$b" != tone ] && BUILD=${b%:*}; done
+for b in "${BUILDS[@]}"; do [ -z "$BUILD" ] && [ "$b" != tone ] && BUILD=${b%:sdl}; done
 [ -n "$BUILD" ] || { echo "name a build folder besides tone"; exit 1; }
 rig_need_game
 rig_need bench_record bench_speech_alone
@@ -64,7 +64,9 @@ for ((i = 0; i < STARTS; i++)); do
     if [ "$b" = tone ]; then
       SDL_AUDIODRIVER=pulseaudio "$BUILD/bench/bench_tone" >>"$RIG/game.log" 2>&1 &
     else
-      (cd "${b%:*}/game" && exec env SDL_AUDIODRIVER=pulseaudio GREENLARK_AUDIO=${b##*:} ./greenlark) \
+      out=pulse
+      [[ $b == *:sdl ]] && out=sdl
+      (cd "${b%:sdl}/game" && exec env SDL_AUDIODRIVER=pulseaudio GREENLARK_AUDIO=$out ./greenlark) \
         >>"$RIG/game.log" 2>&1 &
     fi
     game=$!

@@ -165,10 +165,12 @@ void PulseOutput::reconnect() {
     std::int64_t now = monotonicNs();
     if (now - triedAt_ < 1000000000) return;
     triedAt_ = now;
+    pa_context* fresh = pa_context_new(pa_threaded_mainloop_get_api(loop_), "Greenlark");
+    if (!fresh) return;
     pa_context_set_state_callback(context_, nullptr, nullptr);
     pa_context_disconnect(context_);
     pa_context_unref(context_);
-    context_ = pa_context_new(pa_threaded_mainloop_get_api(loop_), "Greenlark");
+    context_ = fresh;
     pa_context_set_state_callback(context_, contextState, this);
     pa_context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr);
 }

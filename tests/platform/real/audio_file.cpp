@@ -10,7 +10,17 @@ namespace realtest {
 namespace {
 
 constexpr double kLoud = 0.01;   // -40 dBFS
-constexpr size_t kStretch = kDiskRate / 100;
+
+// The loudness of each ten-millisecond stretch.
+std::vector<double> tenMsLoudness(const std::vector<float>& samples) {
+    std::vector<double> rms;
+    for (size_t at = 0; at + 480 <= samples.size(); at += 480) {
+        double sum = 0;
+        for (size_t i = at; i < at + 480; ++i) sum += double(samples[i]) * samples[i];
+        rms.push_back(std::sqrt(sum / 480));
+    }
+    return rms;
+}
 
 }  // namespace
 
@@ -24,19 +34,8 @@ std::vector<float> leftChannel(const std::string& path, long from) {
     std::ifstream in(path, std::ios::binary);
     in.seekg(from * 8);
     std::vector<float> out;
-    float frame[2];
-    while (in.read(reinterpret_cast<char*>(frame), sizeof frame)) out.push_back(frame[0]);
+    for (float frame[2]; in.read(reinterpret_cast<char*>(frame), sizeof frame);) out.push_back(frame[0]);
     return out;
-}
-
-std::vector<double> tenMsLoudness(const std::vector<float>& samples) {
-    std::vector<double> rms;
-    for (size_t at = 0; at + kStretch <= samples.size(); at += kStretch) {
-        double sum = 0;
-        for (size_t i = at; i < at + kStretch; ++i) sum += double(samples[i]) * samples[i];
-        rms.push_back(std::sqrt(sum / kStretch));
-    }
-    return rms;
 }
 
 bool soundsLikeSpeech(const std::vector<float>& samples, int minMs) {
@@ -53,9 +52,8 @@ bool endsInSilence(const std::vector<float>& samples, int quietMs) {
     size_t tail = size_t(quietMs / 10);
     if (rms.size() <= tail) return false;
     auto quietFrom = rms.end() - long(tail);
-    bool soundBefore = std::any_of(rms.begin(), quietFrom, [](double r) { return r > kLoud; });
-    bool quietAfter = std::all_of(quietFrom, rms.end(), [](double r) { return r <= kLoud; });
-    return soundBefore && quietAfter;
+    auto loud = [](double r) { return r > kLoud; };
+    return std::any_of(rms.begin(), quietFrom, loud) && std::none_of(quietFrom, rms.end(), loud);
 }
 
 }  // namespace realtest

@@ -7,14 +7,10 @@
 
 namespace realtest {
 
-constexpr int kDiskRate = 48000;
-
 // The left channel of the file from frame `from` on.
 std::vector<float> leftChannel(const std::string& path, long from = 0);
 long framesIn(const std::string& path);
 
-// The loudness of each ten-millisecond stretch.
-std::vector<double> tenMsLoudness(const std::vector<float>& samples);
 // Speech, as opposed to silence, a click or a steady tone: at least `minMs`
 // of sound, rising and falling in loudness.
 bool soundsLikeSpeech(const std::vector<float>& samples, int minMs);

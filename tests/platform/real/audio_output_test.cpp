@@ -72,17 +72,6 @@ TEST(AudioOutput, WithoutAServerSdlPlaysAndSleepsWhenQuiet) {
     EXPECT_TRUE(eventually([&] { return !mixer.speechAudible(monotonicNs()); })) << "speech was heard out";
 }
 
-// The disk driver's file would start anew each time the stream started.
-TEST(AudioOutput, NeverStopsOnSdlsDiskDriver) {
-    realtest::Headless env(scratch("disk.raw"));
-    {
-        AudioOutput out(SDL_USEREVENT, 100);
-        std::this_thread::sleep_for(600ms);
-        EXPECT_TRUE(out.streaming());
-    }
-    fs::remove(scratch("disk.raw"));
-}
-
 // A private PulseAudio with a null sink "cap", and a recording of its monitor
 // with the monotonic time each read came back at.
 class LivePulse : public ::testing::Test {
