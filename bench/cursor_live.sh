@@ -22,7 +22,8 @@ rig_xvfb || exit 1
 rig_recorder
 # The recorder settles before the sound starts.
 sleep 3
-SDL_AUDIODRIVER=pulseaudio GREENLARK_AUDIO=$OUT "$BUILD/bench/bench_cursor_live" "$RIG" "$SECONDS_MEASURED" 2>"$RIG/live.log"
+SDL_AUDIODRIVER=pulseaudio GREENLARK_AUDIO=$OUT "$BUILD/bench/bench_cursor_live" "$RIG" "$SECONDS_MEASURED" \
+  2>"$RIG/live.log"
 sleep 0.3
 kill $RECORDER
 wait $RECORDER

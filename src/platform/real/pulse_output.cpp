@@ -106,8 +106,10 @@ void PulseOutput::start(std::uint32_t wakeEvent) {
     if (!waitUntil(w, settled) || pa_context_get_state(context_) != PA_CONTEXT_READY)
         throw Failure("no PulseAudio server answers");
     ask(w, pa_context_get_server_info(context_, serverInfo, &w), [&w] { return w.rate != 0; });
-    if (!w.sink.empty())
-        ask(w, pa_context_get_sink_info_by_name(context_, w.sink.c_str(), sinkInfo, &w), [&w] { return w.sink.empty(); });
+    if (!w.sink.empty()) {
+        pa_operation* asked = pa_context_get_sink_info_by_name(context_, w.sink.c_str(), sinkInfo, &w);
+        ask(w, asked, [&w] { return w.sink.empty(); });
+    }
     if (w.rate <= 0) throw Failure("the PulseAudio server did not tell its rate");
     rate_ = std::clamp(w.rate, 8000, 192000);
     mixer_ = std::make_unique<Mixer>(rate_, 0);

@@ -81,11 +81,13 @@ protected:
             if (!realtest::onPath(tool)) GTEST_SKIP() << "needs " << tool;
         for (const char* sub : {"home", "xdg/pulse"}) fs::create_directories(dir / sub);
         fs::permissions(dir / "xdg", fs::perms::owner_all);
-        for (auto [name, value] : {std::pair<const char*, std::string>{"HOME", (dir / "home").string()},
-                                   {"XDG_RUNTIME_DIR", (dir / "xdg").string()}, {"PULSE_SERVER", ""}, {"SDL_AUDIODRIVER", ""}})
-            env.set(name, value);
+        env.set("HOME", (dir / "home").string());
+        env.set("XDG_RUNTIME_DIR", (dir / "xdg").string());
+        env.set("PULSE_SERVER", "");
+        env.set("SDL_AUDIODRIVER", "");
         ASSERT_TRUE(startServer());
-        recorder = popen("exec parec -d cap.monitor --raw --format=s16le --rate=48000 --channels=2 --latency-msec=2", "r");
+        recorder = popen("exec parec -d cap.monitor --raw --format=s16le --rate=48000 --channels=2 --latency-msec=2",
+                         "r");
         ASSERT_TRUE(recorder);
         reader = std::thread([this] {
             std::int16_t block[2 * 96];
@@ -102,8 +104,9 @@ protected:
     }
     static int sh(const std::string& command) { return std::system(command.c_str()); }
     bool startServer() {
-        sh("pulseaudio -D -n --exit-idle-time=-1 --disallow-exit --load=module-native-protocol-unix --log-target=file:" +
-           (dir / "pulse.log").string() + " --load='module-null-sink sink_name=cap rate=48000 format=s16le channels=2'");
+        sh("pulseaudio -D -n --exit-idle-time=-1 --disallow-exit --load=module-native-protocol-unix "
+           "--load='module-null-sink sink_name=cap rate=48000 format=s16le channels=2' --log-target=file:" +
+           (dir / "pulse.log").string());
         return eventually([] { return sh("pactl set-default-sink cap 2>/dev/null") == 0; });
     }
     void stopServer() {

@@ -31,7 +31,8 @@ TEST(DeviceClock, TheListenerFollowsTheEarliestRequests) {
     for (const Case& c : cases) {
         DeviceClock clock(48000, 256);
         EXPECT_EQ(clock.heardFrame(kStart), 0.0) << "nothing before the first request";
-        for (int k = 0; k < 60; ++k) clock.handedOut(k * 256, 256, at(k * 256 + k % 2 * std::uniform_real_distribution<>(0, 200)(rng)));
+        std::uniform_real_distribution<> late(0, 200);
+        for (int k = 0; k < 60; ++k) clock.handedOut(k * 256, 256, at(k * 256 + k % 2 * late(rng)));
         for (int k = 60; k < 68; ++k) clock.handedOut(k * 256, 256, at(k * 256 + c.lateBy));
         EXPECT_NEAR(clock.heardFrame(at(67 * 256 + c.lateBy + 10)), c.heard, 0.01) << c.what;
         EXPECT_EQ(clock.heardFrame(at(100000)), 68 * 256.0) << "never past what was handed out";
