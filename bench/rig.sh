@@ -1,7 +1,8 @@
 # Sourced by the benchmark scripts: a private PulseAudio with a null sink
 # "cap" and a private Xvfb, both in a temporary folder and stopped by
 # process id when the script ends.
-#   rig_pulse      starts PulseAudio (sets HOME and XDG_RUNTIME_DIR); with
+#   rig_pulse      starts PulseAudio (sets HOME, with a Documents folder, and
+#                  XDG_RUNTIME_DIR); with
 #                  RIG_PULSE_DEBUG=1 its log in $RIG/pulse.log is at debug
 #                  level with times, which names every underrun of a stream.
 #                  RIG_SERVER=pipewire starts PipeWire with its pulse layer
@@ -42,7 +43,9 @@ trap rig_stop EXIT
 
 rig_pulse() {
   export HOME=$RIG/home XDG_RUNTIME_DIR=$RIG/xdg
-  mkdir -p "$HOME" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+  # With a documents folder the game keeps the player's files there, not
+  # beside itself in the build's game folder, where they would outlive the run.
+  mkdir -p "$HOME/Documents" "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
   [ "${RIG_SERVER:-}" = pipewire ] && { rig_pipewire; return; }
   # Run as root without a session bus: warnings about both are harmless.
   local level=()
