@@ -84,8 +84,6 @@ for b in "${BUILDS[@]}"; do
       step " Select Your Club." ctrl
       measure "first tee, club prompt, the crowd's loop playing"
     fi
-    kill -9 $GAME
-    wait $GAME 2>/dev/null
-    for _ in $(seq 50); do xdotool search --name Greenlark >/dev/null 2>&1 || break; sleep 0.1; done
+    rig_end_game $GAME
   done
 done

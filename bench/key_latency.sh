@@ -34,14 +34,8 @@ for n in "${!BUILDS[@]}"; do
   game=$!
   rig_track $game
   window=$(rig_window) || { echo "the game's window never came"; exit 1; }
-  rig_said " Please enter your name. " "$RIG/$n.journal"
-  rig_quiet 700
-  rig_letters "$window" "$PRESSES" "$INTERVAL" "$RIG/$n.keys"
-  sleep 0.5
-  kill -9 $game
-  wait $game 2>/dev/null
-  # The window goes before the next game looks for its own.
-  for _ in $(seq 50); do xdotool search --name Greenlark >/dev/null 2>&1 || break; sleep 0.1; done
+  rig_name_keys "$window" "$RIG/$n.journal" "$PRESSES" "$INTERVAL" "$RIG/$n.keys"
+  rig_end_game $game
 done
 kill $RECORDER
 wait $RECORDER

@@ -23,6 +23,10 @@
 #                  silent (below -50 dBFS): what was said has been heard out
 #   rig_stream_gone  waits until the private server plays no stream: the
 #                  game's stream stopped after its two quiet seconds
+#   rig_name_keys WINDOW JOURNAL PRESSES INTERVAL OUT  once the game has said
+#                  its name prompt and it has been heard out, presses letters
+#                  as rig_letters does
+#   rig_end_game PID  kills the game and waits for its window to go
 
 RIG=$(mktemp -d "${TMPDIR:-/tmp}/greenlark-bench-XXXXXX")
 RIG_PIDS=()
@@ -169,4 +173,17 @@ rig_stream_gone() {
   for _ in $(seq 600); do [ -z "$(pactl list short sink-inputs 2>/dev/null)" ] && return 0; sleep 0.1; done
   echo "the game's stream never stopped"
   exit 1
+}
+
+rig_name_keys() {
+  rig_said " Please enter your name. " "$2"
+  rig_quiet 700
+  rig_letters "$1" "$3" "$4" "$5"
+  sleep 0.5
+}
+
+rig_end_game() {
+  kill -9 "$1"
+  wait "$1" 2>/dev/null
+  for _ in $(seq 50); do xdotool search --name Greenlark >/dev/null 2>&1 || return 0; sleep 0.1; done
 }

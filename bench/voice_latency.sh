@@ -61,13 +61,8 @@ measure() {
   awk '$3 == "F8" { print "cut", $2 }' "$RIG/$label.question" >"$RIG/$label.cuts"
   # No: the name prompt, spoken and done before the first letter.
   xdotool key --window "$window" n
-  rig_said " Please enter your name. " "$RIG/$label.journal"
-  rig_quiet 700
-  rig_letters "$window" "$PRESSES" "$INTERVAL" "$RIG/$label.keys"
-  sleep 0.5
-  kill -9 $game
-  wait $game 2>/dev/null
-  for _ in $(seq 50); do xdotool search --name Greenlark >/dev/null 2>&1 || break; sleep 0.1; done
+  rig_name_keys "$window" "$RIG/$label.journal" "$PRESSES" "$INTERVAL" "$RIG/$label.keys"
+  rig_end_game $game
 }
 
 LABELS=()

@@ -150,28 +150,30 @@ CursorPair Mixer::position(int id, std::int64_t now) {
     return c;
 }
 
-void Mixer::setVolume(int id, int hundredthsDb) {
+// A new volume or pan is heard at once on a sound that is being heard.
+void Mixer::setGains(int id, const std::function<void(Sound&)>& set) {
     {
         std::lock_guard lock(mutex_);
         Sound& s = find(id);
-        checkVolume(id, hundredthsDb);
-        s.volume = hundredthsDb;
+        set(s);
         applyGains(s);
         if (!s.playing && !s.endPending) return;
     }
     changed(0);
 }
 
+void Mixer::setVolume(int id, int hundredthsDb) {
+    setGains(id, [&](Sound& s) {
+        checkVolume(id, hundredthsDb);
+        s.volume = hundredthsDb;
+    });
+}
+
 void Mixer::setPan(int id, int hundredthsDb) {
-    {
-        std::lock_guard lock(mutex_);
-        Sound& s = find(id);
+    setGains(id, [&](Sound& s) {
         checkPan(id, hundredthsDb);
         s.pan = hundredthsDb;
-        applyGains(s);
-        if (!s.playing && !s.endPending) return;
-    }
-    changed(0);
+    });
 }
 
 int Mixer::frequency(int id) {

@@ -91,6 +91,7 @@ public:
 private:
     Sound& find(int id);
     void changed(std::int64_t from);
+    void setGains(int id, const std::function<void(Sound&)>& set);
     std::shared_ptr<const std::vector<float>> resampled(const Wave& wave);
     // Mixes one sound into a block starting at device frame `first`;
     // returns true when a one-shot ended.
