@@ -80,6 +80,7 @@ private:
     static void streamState(pa_stream* s, void* self);
     static void request(pa_stream* s, std::size_t bytes, void* self);
     static void timingUpdated(pa_stream* s, void* self);
+    static void ranDry(pa_stream* s, void* self);
     static void verified(pa_stream* s, int success, void* self);
     static void poked(pa_mainloop_api* api, pa_io_event* e, int fd, pa_io_event_flags_t flags, void* self);
     static void ticked(pa_mainloop_api* api, pa_time_event* e, const struct timeval* tv, void* self);

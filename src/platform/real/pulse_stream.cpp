@@ -28,6 +28,7 @@ void PulseOutput::openStream() {
     pa_stream_set_state_callback(stream_, streamState, this);
     pa_stream_set_write_callback(stream_, request, this);
     pa_stream_set_latency_update_callback(stream_, timingUpdated, this);
+    pa_stream_set_underflow_callback(stream_, ranDry, this);
     pa_buffer_attr attr{};
     attr.maxlength = std::uint32_t(-1);
     attr.tlength = std::uint32_t(framesIn(kAheadMs)) * kFrameBytes;
@@ -54,6 +55,7 @@ void PulseOutput::closeStream() {
         pa_stream_set_state_callback(stream_, nullptr, nullptr);
         pa_stream_set_write_callback(stream_, nullptr, nullptr);
         pa_stream_set_latency_update_callback(stream_, nullptr, nullptr);
+        pa_stream_set_underflow_callback(stream_, nullptr, nullptr);
         pa_stream_disconnect(stream_);
         pa_stream_unref(stream_);
     }
@@ -68,6 +70,11 @@ void PulseOutput::streamState(pa_stream*, void* self) {
 void PulseOutput::request(pa_stream*, std::size_t, void* self) { static_cast<PulseOutput*>(self)->topUp(); }
 
 void PulseOutput::timingUpdated(pa_stream*, void* self) { static_cast<PulseOutput*>(self)->heard(); }
+
+// Everything written was heard and the server waits for more: the stream
+// goes on later than the clock had it, which starts anew from the server's
+// next word.
+void PulseOutput::ranDry(pa_stream*, void* self) { static_cast<PulseOutput*>(self)->mixer_->deviceRestarted(); }
 
 // A stream the server dropped is opened anew for the next sound.
 void PulseOutput::onPoke() {
