@@ -92,6 +92,20 @@ stty -g > $D/after
     fs::path dir;
 };
 
+// The texts spoken, in order: the journal's comments "# say2 ...", or the
+// transcript's lines "TIME say2 ...".
+std::vector<std::string> spoken(const std::string& text, bool comments) {
+    std::vector<std::string> out;
+    std::istringstream lines(text);
+    for (std::string l; std::getline(lines, l);) {
+        size_t at = comments ? (l.rfind("# ", 0) == 0 ? 2 : std::string::npos) : l.find(' ');
+        if (at == std::string::npos) continue;
+        std::string body = l.substr(at + (comments ? 0 : 1));
+        if (body.rfind("say ", 0) == 0 || body.rfind("say2 ", 0) == 0) out.push_back(body);
+    }
+    return out;
+}
+
 struct Step {
     const char* heard;
     const char* key;
@@ -133,6 +147,17 @@ TEST_F(TerminalGame, ARoundWithoutADisplayAndTheTerminalAsItWasAfter) {
     EXPECT_EQ(slurp(dir / "after"), slurp(dir / "before"));
     EXPECT_EQ(slurp(dir / kConfig), " Jo \r\n 0 \r\n 0 \r\n 95 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n 0 \r\n\r\n");
     EXPECT_TRUE(realtest::soundsLikeSpeech(realtest::leftChannel((dir / "audio").string()), 500));
+    // The journal plays the game again through greenlark-sim to the same texts.
+    fs::create_directories(dir / "replay");
+    std::string replayed;
+    FILE* sim = popen(("'" + std::string(GREENLARK_SIM) + "' --docs '" + (dir / "replay").string() + "' '" +
+                       (dir / "journal").string() + "' 2>&1").c_str(), "r");
+    char buf[4096];
+    while (sim && std::fgets(buf, sizeof buf, sim)) replayed += buf;
+    ASSERT_TRUE(sim && pclose(sim) == 0) << replayed << slurp(dir / "journal");
+    auto heard = spoken(slurp(dir / "journal"), true);
+    EXPECT_GT(heard.size(), 30u);
+    EXPECT_EQ(spoken(replayed, false), heard) << replayed;
     // Nothing but the shell's own lines in the pane.
     std::istringstream pane(tmux("capture-pane -p"));
     for (std::string line; std::getline(pane, line);)
